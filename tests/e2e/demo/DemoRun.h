@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Client.h"
+#include "Service.h"
+
+#include <QImage>
+#include <QRect>
+#include <QString>
+
+// One run of the demo. Every step prints what it saw and saves NN-name.png; the first step that fails ends the
+// run with a picture of the whole screen.
+class DemoRun
+{
+public:
+    explicit DemoRun(const QString &outputDir);
+
+    // Whether every step succeeded.
+    bool run();
+
+private:
+    void signIn();
+    void openDevice();
+    void paint();
+    void writeNotes();
+    void scrollList();
+    void closeDevice();
+
+    // Taps an app's icon on the launcher and waits until the app is in front.
+    void launch(const QString &app);
+    // Screen position of a point of the device's screen, given in its 720 x 1280 pixels.
+    QPoint onScreen(const QPoint &devicePoint) const;
+    QRect videoArea() const;
+    void save(const QString &name, const QImage &picture);
+    static void say(const QString &text);
+
+    QString m_outputDir;
+    e2e::Service m_service;
+    e2e::Client m_client;
+    QString m_deviceName;
+    QString m_pad;
+    int m_step = 0;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QProcess>
+#include <QString>
+#include <QTemporaryDir>
+
+namespace e2e {
+
+// The real local service in a process of its own, with a data directory of its own and free ports. The ports
+// stay the same over kill() and start(), as they do for a service that is restarted.
+class Service
+{
+public:
+    // `program`: path of orvane-cloud.
+    explicit Service(const QString &program, int devices = 12);
+    ~Service();
+
+    // Starts it and waits until it is ready. Throws StepFailed.
+    void start();
+    // Ends it without a chance to say goodbye.
+    void kill();
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+
+    QString apiBaseUrl() const { return m_apiBaseUrl; }
+    quint16 gatewayPort() const { return m_gatewayPort; }
+    // Signs in as the demo user and returns the answer's data.
+    QJsonObject signIn();
+    // One call of the API; returns the whole envelope. Throws StepFailed when there is no answer.
+    QJsonObject call(const QString &method, const QString &path, const QJsonObject &body = {},
+        const QJsonObject &headers = {}) const;
+    // One call under /admin/; returns "data". Throws StepFailed unless the code is 200.
+    QJsonObject admin(const QString &method, const QString &path, const QJsonObject &body = {}) const;
+
+    // What a device received after a sequence number, oldest first: the "event" objects.
+    QJsonArray inputEvents(const QString &pad, qint64 since = 0) const;
+    QJsonObject appState(const QString &pad) const;
+    void openApp(const QString &pad, const QString &app) const;
+    QString output() const { return QString::fromUtf8(m_output); }
+
+private:
+    QString m_program;
+    int m_devices;
+    QTemporaryDir m_data;
+    QProcess m_process;
+    QString m_apiBaseUrl;
+    quint16 m_httpPort = 0;
+    quint16 m_gatewayPort = 0;
+    QByteArray m_output; // what it wrote to stderr
+};
+
+} // namespace e2e
