@@ -7,8 +7,8 @@
 #include <QRect>
 #include <QString>
 
-// One run of the demo. Every step prints what it saw and saves NN-name.png; the first step that fails ends the
-// run with a picture of the whole screen.
+// One run of the demo. Every step prints what it saw and saves NN-name.png; the first step that fails ends
+// the run with a picture of the whole screen.
 class DemoRun
 {
 public:

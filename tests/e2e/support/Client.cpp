@@ -7,15 +7,13 @@
 
 namespace e2e {
 
-Client::Client(const QString &program, const QString &apiBaseUrl)
+Client::Client(const QString &program)
+    : m_environment(QProcessEnvironment::systemEnvironment())
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("ORVANE_API_BASE_URL"), apiBaseUrl);
-    environment.insert(QStringLiteral("HOME"), m_home.path());
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.filePath(QStringLiteral("config")));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
-    m_process.setProcessEnvironment(environment);
+    m_environment.insert(QStringLiteral("HOME"), m_home.path());
+    m_environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
+    m_environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_home.filePath(QStringLiteral("config")));
+    m_environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
     m_process.setProgram(program);
     m_process.setProcessChannelMode(QProcess::MergedChannels);
     QObject::connect(&m_process, &QProcess::readyReadStandardOutput, &m_process,
@@ -28,8 +26,14 @@ Client::~Client()
     kill();
 }
 
+void Client::setApiBaseUrl(const QString &apiBaseUrl)
+{
+    m_environment.insert(QStringLiteral("ORVANE_API_BASE_URL"), apiBaseUrl);
+}
+
 void Client::start()
 {
+    m_process.setProcessEnvironment(m_environment);
     m_process.start();
     if (!m_process.waitForStarted(10000))
         throw StepFailed(QStringLiteral("%1 did not start").arg(m_process.program()));
@@ -37,7 +41,8 @@ void Client::start()
 
 void Client::waitForExit(int timeoutMs)
 {
-    waitUntil(QStringLiteral("the client ends"), [this] { return !isRunning(); }, timeoutMs);
+    waitUntil(
+        QStringLiteral("the client ends"), [this] { return !isRunning(); }, timeoutMs);
 }
 
 void Client::kill()

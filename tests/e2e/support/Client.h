@@ -10,12 +10,14 @@ namespace e2e {
 class Client
 {
 public:
-    // `program`: path of orvane; `apiBaseUrl`: the service it talks to.
-    Client(const QString &program, const QString &apiBaseUrl);
+    // `program`: path of orvane.
+    explicit Client(const QString &program);
     ~Client();
 
+    // The service it talks to; before start.
+    void setApiBaseUrl(const QString &apiBaseUrl);
     void start();
-    // Asks it to end as a window manager does and waits. Throws StepFailed when it does not.
+    // Throws StepFailed when it does not end by itself.
     void waitForExit(int timeoutMs = 10000);
     void kill();
     bool isRunning() const { return m_process.state() == QProcess::Running; }
@@ -29,6 +31,7 @@ public:
 
 private:
     QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
     QProcess m_process;
     QByteArray m_output;
 };

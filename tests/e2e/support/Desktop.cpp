@@ -39,8 +39,8 @@ static QString windowId(const QString &found)
 QRect Desktop::window(const QString &title)
 {
     const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
-    const QString id
-        = windowId(xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
+    const QString id = windowId(xdotool(
+        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
     if (id.isEmpty())
         return {};
     const QString shell = xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
@@ -55,8 +55,8 @@ QRect Desktop::window(const QString &title)
 void Desktop::activate(const QString &title)
 {
     const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
-    const QString id
-        = windowId(xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
+    const QString id = windowId(xdotool(
+        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
     if (id.isEmpty())
         throw StepFailed(QStringLiteral("there is no window '%1'").arg(title));
     xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), id});
@@ -88,8 +88,8 @@ void Desktop::click(const QPoint &pos)
 void Desktop::doubleClick(const QPoint &pos)
 {
     moveTo(pos);
-    xdotool({QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"), QStringLiteral("--delay"),
-        QStringLiteral("60"), QStringLiteral("1")});
+    xdotool({QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+        QStringLiteral("--delay"), QStringLiteral("60"), QStringLiteral("1")});
 }
 
 void Desktop::drag(const QVector<QPoint> &path)

@@ -10,7 +10,7 @@ namespace e2e {
 namespace {
 constexpr int settledMs = 400;
 constexpr double unchangedShare = 0.0005; // a blinking cursor is no change
-constexpr int clearDifference = 24;       // of 255, in any channel
+constexpr int clearDifference = 24; // of 255, in any channel
 constexpr int fewColours = 3;
 } // namespace
 
@@ -23,7 +23,8 @@ double difference(const QImage &a, const QImage &b)
         for (int x = 0; x < a.width(); ++x) {
             const QRgb p = a.pixel(x, y);
             const QRgb q = b.pixel(x, y);
-            differing += qAbs(qRed(p) - qRed(q)) > clearDifference || qAbs(qGreen(p) - qGreen(q)) > clearDifference
+            differing += qAbs(qRed(p) - qRed(q)) > clearDifference
+                || qAbs(qGreen(p) - qGreen(q)) > clearDifference
                 || qAbs(qBlue(p) - qBlue(q)) > clearDifference;
         }
     }

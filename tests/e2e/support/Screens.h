@@ -16,8 +16,8 @@ double difference(const QImage &a, const QImage &b);
 // How many distinct colours a picture has, counted up to `limit`.
 int colourCount(const QImage &picture, int limit = 1000);
 
-// How sharp a picture is: the mean squared difference between horizontal neighbours. A blurred picture has much
-// less of it than a sharp one of the same thing.
+// How sharp a picture is: the mean squared difference between horizontal neighbours. A blurred picture has
+// much less of it than a sharp one of the same thing.
 double sharpness(const QImage &picture);
 
 } // namespace e2e

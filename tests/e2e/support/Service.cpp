@@ -56,7 +56,7 @@ QJsonObject Service::call(
     const QString &method, const QString &path, const QJsonObject &body, const QJsonObject &headers) const
 {
     QNetworkAccessManager manager;
-    QNetworkRequest request {QUrl(m_apiBaseUrl + path)};
+    QNetworkRequest request{QUrl(m_apiBaseUrl + path)};
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     for (auto it = headers.begin(); it != headers.end(); ++it)
         request.setRawHeader(it.key().toUtf8(), it.value().toString().toUtf8());
@@ -76,15 +76,15 @@ QJsonObject Service::admin(const QString &method, const QString &path, const QJs
 {
     const QJsonObject answer = call(method, path, body);
     if (answer.value(QLatin1String("code")).toInt() != 200)
-        throw StepFailed(QStringLiteral("%1 %2: %3").arg(
-            method, path, answer.value(QLatin1String("msg")).toString()));
+        throw StepFailed(
+            QStringLiteral("%1 %2: %3").arg(method, path, answer.value(QLatin1String("msg")).toString()));
     return answer.value(QLatin1String("data")).toObject();
 }
 
 QJsonObject Service::signIn()
 {
-    const QJsonObject body {
-        {QStringLiteral("account"), QStringLiteral("demo")}, {QStringLiteral("password"), QStringLiteral("orvane-demo")}};
+    const QJsonObject body{{QStringLiteral("account"), QStringLiteral("demo")},
+        {QStringLiteral("password"), QStringLiteral("orvane-demo")}};
     return call(QStringLiteral("POST"), QStringLiteral("/apiv1/user/login"), body)
         .value(QLatin1String("data"))
         .toObject();
@@ -93,8 +93,8 @@ QJsonObject Service::signIn()
 QJsonArray Service::inputEvents(const QString &pad, qint64 since) const
 {
     QJsonArray events;
-    const QJsonObject data
-        = admin(QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/input?since=%2").arg(pad).arg(since));
+    const QJsonObject data = admin(
+        QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/input?since=%2").arg(pad).arg(since));
     for (const QJsonValue &entry : data.value(QLatin1String("events")).toArray())
         events.append(entry.toObject().value(QLatin1String("event")));
     return events;

@@ -15,8 +15,7 @@ class StepFailed : public std::runtime_error
 public:
     explicit StepFailed(const QString &what)
         : std::runtime_error(what.toStdString())
-    {
-    }
+    { }
 };
 
 // Runs the event loop until the condition holds. Throws StepFailed after the time limit.

@@ -1,0 +1,244 @@
+#include "DemoRun.h"
+
+#include "Desktop.h"
+#include "Screens.h"
+#include "Waiting.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QDir>
+#include <QGuiApplication>
+#include <QJsonArray>
+
+#include <cmath>
+#include <cstdio>
+
+using e2e::Desktop;
+using e2e::settledPicture;
+using e2e::StepFailed;
+using e2e::waitUntil;
+
+namespace {
+
+const QString mainWindowTitle = QStringLiteral("Orvane");
+constexpr QSize deviceScreen(720, 1280);
+constexpr int shadowMargin = 10;
+constexpr int titleBarHeight = 40;
+constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
+
+QString program(const char *name)
+{
+    return QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(name);
+}
+
+} // namespace
+
+DemoRun::DemoRun(const QString &outputDir)
+    : m_outputDir(outputDir)
+    , m_service(program("orvane-cloud"))
+    , m_client(program("orvane"))
+{ }
+
+bool DemoRun::run()
+{
+    QDir(m_outputDir).removeRecursively();
+    QDir().mkpath(m_outputDir);
+    try {
+        m_service.start();
+        say(QStringLiteral("the local service answers at %1").arg(m_service.apiBaseUrl()));
+        m_client.setApiBaseUrl(m_service.apiBaseUrl());
+        m_client.start();
+        signIn();
+        openDevice();
+        paint();
+        writeNotes();
+        scrollList();
+        closeDevice();
+        say(QStringLiteral("done: %1 pictures in %2").arg(m_step).arg(QDir(m_outputDir).absolutePath()));
+        return true;
+    } catch (const StepFailed &failure) {
+        std::fprintf(stderr, "FAILED: %s\n", failure.what());
+        Desktop::screenshot().save(m_outputDir + QStringLiteral("/failed.png"));
+        std::fprintf(stderr, "--- client log ---\n%s\n--- client output ---\n%s\n--- service ---\n%s\n",
+            qPrintable(m_client.log().right(6000)), qPrintable(m_client.output().right(3000)),
+            qPrintable(m_service.output().right(3000)));
+        return false;
+    }
+}
+
+void DemoRun::signIn()
+{
+    waitUntil(QStringLiteral("the sign-in window is open"),
+        [] { return !Desktop::window(mainWindowTitle).isEmpty(); });
+    save(QStringLiteral("sign-in"),
+        settledPicture(
+            QStringLiteral("the sign-in page is painted"), Desktop::window(mainWindowTitle), 30000));
+
+    // The account field has the focus.
+    Desktop::activate(mainWindowTitle);
+    Desktop::type(QStringLiteral("demo"));
+    Desktop::key(QStringLiteral("Tab"));
+    Desktop::type(QStringLiteral("orvane-demo"));
+    save(QStringLiteral("sign-in-filled"),
+        settledPicture(QStringLiteral("the fields are filled in"), Desktop::window(mainWindowTitle)));
+    Desktop::key(QStringLiteral("Return"));
+
+    waitUntil(QStringLiteral("the window grows to its working size"),
+        [] { return Desktop::window(mainWindowTitle).width() >= workingWidth; });
+    save(QStringLiteral("devices"),
+        settledPicture(QStringLiteral("the device list is painted"), Desktop::window(mainWindowTitle)));
+    say(QStringLiteral("signed in as demo; the device list is shown"));
+}
+
+void DemoRun::openDevice()
+{
+    const QJsonArray devices = m_service.admin(QStringLiteral("GET"), QStringLiteral("/admin/devices"))
+                                   .value(QLatin1String("devices"))
+                                   .toArray();
+    const QJsonObject device = devices.at(0).toObject();
+    m_deviceName = device.value(QLatin1String("alias_name")).toString();
+    m_pad = device.value(QLatin1String("pad_code")).toString();
+
+    // From the search field, which has the focus, to the first card.
+    Desktop::type(m_deviceName);
+    Desktop::key(QStringLiteral("Tab"));
+    QTest::qWait(300);
+    Desktop::key(QStringLiteral("Tab"));
+    Desktop::key(QStringLiteral("Return"));
+    waitUntil(QStringLiteral("the window of device '%1' is open").arg(m_deviceName),
+        [this] { return !Desktop::window(m_deviceName).isEmpty(); });
+    waitUntil(QStringLiteral("the device's screen is shown"),
+        [this] { return e2e::colourCount(Desktop::screenshot(videoArea()), 200) >= 200; });
+    const QImage picture
+        = settledPicture(QStringLiteral("the picture is sharp"), Desktop::window(m_deviceName));
+    save(QStringLiteral("device"), picture);
+    say(QStringLiteral("'%1' is live; sharpness %2")
+            .arg(m_deviceName)
+            .arg(e2e::sharpness(picture), 0, 'f', 1));
+}
+
+void DemoRun::launch(const QString &app)
+{
+    m_service.openApp(m_pad, QStringLiteral("Home"));
+    const auto icons = [this] { return m_service.appState(m_pad).value(QLatin1String("icons")).toObject(); };
+    waitUntil(QStringLiteral("the launcher is in front"), [&] { return icons().contains(app); });
+    settledPicture(QStringLiteral("the launcher is shown"), videoArea());
+    const QJsonArray centre = icons().value(app).toArray();
+    Desktop::click(onScreen({centre.at(0).toInt(), centre.at(1).toInt()}));
+    waitUntil(QStringLiteral("%1 is in front").arg(app),
+        [&] { return m_service.appState(m_pad).value(QLatin1String("app")).toString() == app; });
+    settledPicture(QStringLiteral("%1 is shown").arg(app), videoArea());
+}
+
+void DemoRun::paint()
+{
+    launch(QStringLiteral("Paint"));
+    // A spiral and a zigzag.
+    QVector<QPoint> spiral;
+    for (int i = 0; i <= 40; ++i) {
+        const double angle = i * 0.35;
+        const double radius = 30 + i * 4.5;
+        spiral << onScreen({qRound(360 + radius * std::cos(angle)), qRound(500 + radius * std::sin(angle))});
+    }
+    Desktop::drag(spiral);
+    QVector<QPoint> zigzag;
+    for (int i = 0; i <= 8; ++i)
+        zigzag << onScreen({100 + i * 65, i % 2 ? 860 : 1000});
+    Desktop::drag(zigzag);
+    waitUntil(QStringLiteral("Paint has two strokes"),
+        [this] { return m_service.appState(m_pad).value(QLatin1String("strokes")).toInt() == 2; });
+    save(QStringLiteral("paint"),
+        settledPicture(QStringLiteral("the strokes are shown"), Desktop::window(m_deviceName)));
+    say(QStringLiteral("drew 2 strokes in Paint by dragging"));
+}
+
+void DemoRun::writeNotes()
+{
+    launch(QStringLiteral("Notes"));
+    Desktop::type(QStringLiteral("hello"));
+    Desktop::key(QStringLiteral("space"));
+    Desktop::type(QStringLiteral("A7x"));
+    Desktop::key(QStringLiteral("BackSpace"));
+    Desktop::key(QStringLiteral("Return"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("你好 مرحبا"));
+    Desktop::key(QStringLiteral("ctrl+v"));
+
+    const QString expected = QStringLiteral("hello A7\n你好 مرحبا");
+    const auto text = [this] { return m_service.appState(m_pad).value(QLatin1String("text")).toString(); };
+    try {
+        waitUntil(QStringLiteral("Notes holds the text"), [&] { return text() == expected; });
+    } catch (const StepFailed &) {
+        throw StepFailed(QStringLiteral("Notes holds '%1' instead of '%2'").arg(text(), expected));
+    }
+    save(QStringLiteral("notes"),
+        settledPicture(QStringLiteral("the text is shown"), Desktop::window(m_deviceName)));
+    say(QStringLiteral("typed and pasted into Notes: \"%1\"")
+            .arg(text().replace(QLatin1Char('\n'), QStringLiteral("\\n"))));
+}
+
+void DemoRun::scrollList()
+{
+    launch(QStringLiteral("List"));
+    const auto value = [this](const char *name) {
+        return m_service.appState(m_pad).value(QLatin1String(name)).toDouble();
+    };
+    const QPoint centre = videoArea().center();
+
+    const double offset = value("offset");
+    Desktop::wheel(centre, -3);
+    waitUntil(QStringLiteral("the list has scrolled"), [&] { return value("offset") > offset + 50; });
+    save(QStringLiteral("list-scrolled"),
+        settledPicture(QStringLiteral("the scrolled list is shown"), Desktop::window(m_deviceName)));
+    say(QStringLiteral("scrolled the list by wheel: from %1 to %2 pixels").arg(offset).arg(value("offset")));
+
+    const double zoom = value("zoom");
+    Desktop::wheel(centre, 2, true);
+    waitUntil(QStringLiteral("the list has zoomed in"), [&] { return value("zoom") > zoom * 1.05; });
+    save(QStringLiteral("list-pinched"),
+        settledPicture(QStringLiteral("the zoomed list is shown"), Desktop::window(m_deviceName)));
+    say(QStringLiteral("pinched by Ctrl + wheel: zoom from %1 to %2").arg(zoom).arg(value("zoom")));
+}
+
+void DemoRun::closeDevice()
+{
+    const QRect window = Desktop::window(m_deviceName);
+    Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + titleBarHeight / 2});
+    waitUntil(QStringLiteral("the device window is closed"),
+        [this] { return Desktop::window(m_deviceName).isEmpty(); });
+    waitUntil(QStringLiteral("the service has the session back"), [this] {
+        return m_service.admin(QStringLiteral("GET"), QStringLiteral("/admin/stats"))
+            .value(QLatin1String("sessions"))
+            .toArray()
+            .isEmpty();
+    });
+    say(QStringLiteral("closed the device window; the service has its session back"));
+}
+
+QRect DemoRun::videoArea() const
+{
+    return Desktop::window(m_deviceName)
+        .adjusted(shadowMargin, shadowMargin + titleBarHeight, -shadowMargin, -shadowMargin);
+}
+
+QPoint DemoRun::onScreen(const QPoint &devicePoint) const
+{
+    const QRect video = videoArea();
+    return video.topLeft()
+        + QPoint(devicePoint.x() * video.width() / deviceScreen.width(),
+            devicePoint.y() * video.height() / deviceScreen.height());
+}
+
+void DemoRun::save(const QString &name, const QImage &picture)
+{
+    ++m_step;
+    const QString file
+        = QStringLiteral("%1/%2-%3.png").arg(m_outputDir).arg(m_step, 2, 10, QLatin1Char('0')).arg(name);
+    if (!picture.save(file))
+        throw StepFailed(QStringLiteral("%1 could not be written").arg(file));
+}
+
+void DemoRun::say(const QString &text)
+{
+    std::printf("  %s\n", qPrintable(text));
+    std::fflush(stdout);
+}
