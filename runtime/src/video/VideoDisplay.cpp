@@ -1,0 +1,3 @@
+#include "swplay/VideoDisplay.h"
+
+VideoDisplay::~VideoDisplay() = default;
