@@ -17,11 +17,11 @@ enum class DeviceState {
 struct InputRecord
 {
     std::uint64_t sequence = 0; // counts up from 1 per device
-    std::int64_t timeUs = 0;    // service clock (steady), microseconds
+    std::int64_t timeUs = 0; // service clock (steady), microseconds
     std::string sessionId;
     std::string json; // {"type":"touch","action":0,"points":[[x,y],…]} | {"type":"key","action":1,"code":30,
-                      // "shift":true} | {"type":"text","text":"…"} | {"type":"picture","bytes":n,"width":w,"height":h}
-                      // | {"type":"audio","bytes":n}
+                      // "shift":true} | {"type":"text","text":"…"} |
+                      // {"type":"picture","bytes":n,"width":w,"height":h} | {"type":"audio","bytes":n}
 };
 
 // What the gateway measured about one connected session.
@@ -52,21 +52,29 @@ public:
     virtual DeviceState state(const std::string &padCode) const = 0;
     // Restarts the device: boot screen for a moment, then the launcher. False when there is no such device.
     virtual bool reboot(const std::string &padCode) = 0;
-    // Ends the connections of a session that was given back (SessionEnd CLOSED) or whose time is over (EXPIRED).
+    // Ends the connections of a session that was given back (SessionEnd CLOSED) or whose time is over
+    // (EXPIRED).
     virtual void endSession(const std::string &sessionId, bool expired) = 0;
     // Picture of the screen as PNG bytes; longest side at most `maxSide` pixels. Empty for an unknown device.
     virtual std::string screenPng(const std::string &padCode, int maxSide) = 0;
+    // Counts up whenever the screen's picture changes; equal values mean an unchanged picture for as long as
+    // the process runs. 0 for an unknown device.
+    virtual std::uint64_t screenVersion(const std::string &padCode) const = 0;
 
     // For tests, through /admin/.
-    virtual std::vector<InputRecord> inputsSince(const std::string &padCode, std::uint64_t sequence) const = 0;
-    virtual bool openApp(const std::string &padCode, const std::string &app) = 0; // "Home", "Paint", "Notes", …
-    virtual bool rotate(const std::string &padCode, int rotation) = 0;             // 0 to 3
+    virtual std::vector<InputRecord> inputsSince(
+        const std::string &padCode, std::uint64_t sequence) const = 0;
+    virtual bool openApp(const std::string &padCode, const std::string &app)
+        = 0; // "Home", "Paint", "Notes", …
+    virtual bool rotate(const std::string &padCode, int rotation) = 0; // 0 to 3
     virtual bool requestCamera(const std::string &padCode, bool on) = 0;
     // What the app in front shows, as JSON: {"app":"Notes","text":"…"}, {"app":"Paint","fingers":2,…}.
     virtual std::string appStateJson(const std::string &padCode) const = 0;
     // Empty pad code = every connection of the gateway.
-    virtual int cutConnections(const std::string &padCode) = 0; // closes the sockets at once; returns how many
-    virtual int stallConnections(const std::string &padCode, std::chrono::milliseconds duration) = 0; // neither reads nor writes
+    virtual int cutConnections(const std::string &padCode)
+        = 0; // closes the sockets at once; returns how many
+    virtual int stallConnections(const std::string &padCode, std::chrono::milliseconds duration)
+        = 0; // neither reads nor writes
     virtual void limitBandwidth(const std::string &padCode, int kbitPerSec) = 0; // 0 = no limit
     // Replaces the next `count` access units that are sent by damaged ones.
     virtual int corruptVideo(const std::string &padCode, int count) = 0;
