@@ -54,6 +54,8 @@ bool H264Decoder::open()
 H264Decoder::Result H264Decoder::decode(AccessUnit unit)
 {
     m_problem.clear();
+    if (unit.keyFrame && reorders())
+        restart();
     if (!open())
         return fail(Result::Failed, "there is no H.264 decoder");
     // To libavcodec an empty packet is the end of the stream.
@@ -143,10 +145,15 @@ const VideoFrame *H264Decoder::picture() const
     return m_picture.native ? &m_picture : nullptr;
 }
 
-void H264Decoder::flush()
+void H264Decoder::restart()
 {
-    if (m_context)
-        avcodec_flush_buffers(m_context.get());
+    // Flushing is not enough: libavcodec keeps the longest output delay that a (damaged) stream ever claimed.
+    m_context.reset();
+}
+
+bool H264Decoder::reorders() const
+{
+    return m_context && m_context->has_b_frames > 0;
 }
 
 H264Decoder::Result H264Decoder::fail(Result result, std::string problem)

@@ -36,7 +36,9 @@ public:
     // Why the last decode was not Picture or NoPicture. English, for the log.
     const std::string &problem() const { return m_problem; }
     // Forgets the stream; the next unit is a key frame. The last picture stays.
-    void flush();
+    void restart();
+    // Whether the stream says that it reorders pictures, so that the picture of a unit may come out later.
+    bool reorders() const;
 
 private:
     // What a unit was, by its running number, to find it again when its picture comes out.

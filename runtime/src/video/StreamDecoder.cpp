@@ -63,7 +63,7 @@ void StreamDecoder::setFeedback(std::weak_ptr<VideoFeedback> feedback)
 
 void StreamDecoder::accessUnit(AccessUnit unit)
 {
-    const bool keyFrame = unit.keyFrame && startsWithIdr(unit.data);
+    unit.keyFrame = unit.keyFrame && startsWithIdr(unit.data);
     std::string loss;
     FeedbackPtr feedback;
     bool wake = false;
@@ -71,7 +71,7 @@ void StreamDecoder::accessUnit(AccessUnit unit)
         const std::lock_guard lock(m_mutex);
         if (m_closed)
             return;
-        admit(std::move(unit), keyFrame, loss);
+        admit(std::move(unit), loss);
         if (m_needKeyFrame)
             feedback = keyFrameRequest();
         wake = becomeScheduled();
@@ -82,12 +82,12 @@ void StreamDecoder::accessUnit(AccessUnit unit)
 }
 
 // Queues a unit, or says in `loss` why decoding cannot go on with it.
-void StreamDecoder::admit(AccessUnit unit, bool keyFrame, std::string &loss)
+void StreamDecoder::admit(AccessUnit unit, std::string &loss)
 {
     const bool inOrder = unit.frameId == m_lastFrameId + 1;
     const std::size_t size = unit.data.size();
     m_lastFrameId = unit.frameId;
-    if (keyFrame && size <= MaxWaitingBytes) {
+    if (unit.keyFrame && size <= MaxWaitingBytes) {
         clearWaiting(); // older pictures would only delay this one
         m_needKeyFrame = false;
         ++m_epoch;
@@ -136,8 +136,8 @@ bool StreamDecoder::serve()
     if (step.rotation
         && !withDisplay([&](VideoDisplay &display) { display.onScreenRotation(*step.rotation); }))
         keepRotation(*step.rotation);
-    if (step.flush)
-        m_decoder->flush();
+    if (step.restart)
+        m_decoder->restart();
     if (step.unit)
         decode(step);
     else if (const VideoFrame *last = step.redraw ? m_decoder->picture() : nullptr)
@@ -165,7 +165,7 @@ bool StreamDecoder::beginStep(Step &step)
         step.unit = std::move(m_waiting.front());
         m_waiting.pop_front();
         m_waitingBytes -= step.unit->data.size();
-        step.flush = std::exchange(m_flush, false);
+        step.restart = std::exchange(m_restart, false);
     }
     return true;
 }
@@ -188,8 +188,8 @@ void StreamDecoder::decode(Step &step)
     using Result = H264Decoder::Result;
     const bool keyFrame = step.unit->keyFrame;
     Result result = m_decoder->decode(std::move(*step.unit));
-    // A key frame always has a picture.
-    if (result == Result::NoPicture && keyFrame)
+    const bool swallowed = result == Result::NoPicture && keyFrame && !m_decoder->reorders();
+    if (swallowed)
         result = Result::Corrupt;
     if (result == Result::Picture)
         pictureReady();
@@ -224,13 +224,15 @@ void StreamDecoder::decodingFailed(std::uint64_t epoch, H264Decoder::Result resu
     FeedbackPtr feedback;
     {
         const std::lock_guard lock(m_mutex);
-        m_flush = true;
+        m_restart = true;
         if (m_closed || epoch != m_epoch)
             return; // a key frame is waiting already, or the unit was of an earlier connection
         loseStream();
         feedback = keyFrameRequest();
     }
-    report("a unit is damaged (" + m_decoder->problem() + ")", feedback);
+    const std::string &problem = m_decoder->problem();
+    report("a unit is damaged (" + (problem.empty() ? "a key frame without a picture" : problem) + ")",
+        feedback);
 }
 
 void StreamDecoder::show(const VideoFrame &picture)
@@ -276,7 +278,7 @@ void StreamDecoder::loseStream()
 {
     clearWaiting();
     m_needKeyFrame = true;
-    m_flush = true;
+    m_restart = true;
 }
 
 // Whom to ask for a key frame, or none if that was done lately without a picture since.

@@ -70,13 +70,13 @@ private:
         std::optional<AccessUnit> unit;
         std::optional<int> rotation;
         std::uint64_t epoch = 0;
-        bool flush = false;
+        bool restart = false;
         bool redraw = false;
         FeedbackPtr askForKeyFrame;
     };
 
     // With m_mutex held:
-    void admit(AccessUnit unit, bool keyFrame, std::string &loss);
+    void admit(AccessUnit unit, std::string &loss);
     void loseStream();
     FeedbackPtr keyFrameRequest();
     bool hasWork() const;
@@ -106,7 +106,7 @@ private:
     std::deque<AccessUnit> m_waiting; // a key frame stands only at its front
     std::size_t m_waitingBytes = 0;
     bool m_needKeyFrame = true; // units are skipped up to a key frame
-    bool m_flush = false; // the decoder starts anew with the next unit
+    bool m_restart = false; // the decoder starts anew with the next unit
     std::uint64_t m_epoch = 0; // counts key frames and resets: failures of an earlier epoch do not matter
     std::uint64_t m_lastFrameId = 0;
     std::optional<std::chrono::steady_clock::time_point> m_lastRequest;
