@@ -1,0 +1,111 @@
+#pragma once
+
+#include "core/DeviceFleet.h"
+
+#include <QDateTime>
+#include <QImage>
+#include <QRect>
+#include <QSize>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace orvane::cloud {
+
+// One finger of a touch frame.
+struct TouchPoint
+{
+    int x = 0; // pixels of the portrait screen; (-1, -1) = no finger, other values outside go to the edge
+    int y = 0;
+    float pressure = 0; // 0 to 1; 0 or anything else = not known
+};
+
+// A virtual Android device: a screen of 720 x 1280 pixels that is drawn only where something changed, with
+// multi-touch, keys, text and rotation, a launcher and a few apps.
+//
+// Thread-compatible: any thread may call it, but never two at once. It has no timers and no clock of its own:
+// every time point comes from the caller, and the earliest one it wants to be ticked at is nextTick(). Times
+// must not go backwards. Needs a QGuiApplication in the process (any platform). Owned by the caller.
+//
+// A session is one client. Each has its own fingers and keys, so that several may work the device at once.
+class VirtualDevice
+{
+public:
+    using TimePoint = std::chrono::steady_clock::time_point;
+    using WallClock = std::function<QDateTime()>;
+
+    // `padCode`: the device's code; `name`: shown on its home screen; both UTF-8. `wallClock`: date and time
+    // for the status bar and the home screen, read whenever the device is awake anyway.
+    VirtualDevice(std::string padCode, std::string name, WallClock wallClock = &QDateTime::currentDateTime);
+    ~VirtualDevice();
+    VirtualDevice(const VirtualDevice &) = delete;
+    VirtualDevice &operator=(const VirtualDevice &) = delete;
+
+    // The portrait screen: the space of touch coordinates and of frame(), whatever the rotation.
+    static QSize screenSize() { return {720, 1280}; }
+    // Quarter turns, 0 to 3; odd = landscape.
+    int rotation() const;
+    // Turns the screen; other values than 0 to 3 are refused with a log line. Apps lose their fingers.
+    void setRotation(int rotation);
+
+    // Every finger of the session that is on the screen (at most 10; more are ignored); none, or only points
+    // (-1, -1) = no finger. `action`: 0 down, 1 up, 2 move.
+    void touch(
+        const std::string &sessionKey, int action, const std::vector<TouchPoint> &points, TimePoint time);
+    // `action`: 1 down, 2 up, 3 click; `code`: linux/input-event-codes.h, 0 = activity without a key;
+    // `shift`: the character needs Shift.
+    void key(const std::string &sessionKey, int action, int code, bool shift, TimePoint time);
+    // Types UTF-8 text. "\r", "\n" or "\r\n" = Enter, "\b" = Backspace, 0x7f = Delete, "\t" = tab; other
+    // control characters are ignored.
+    void text(const std::string &sessionKey, const std::string &utf8, TimePoint time);
+    // One camera picture as a JPEG.
+    void picture(const std::string &sessionKey, const std::string &jpeg, TimePoint time);
+    // Microphone data; `format` as on the wire.
+    void audio(const std::string &sessionKey, int format, const std::string &data, TimePoint time);
+    // Lifts the session's fingers and keys. An unknown session is none.
+    void sessionGone(const std::string &sessionKey, TimePoint time);
+
+    // The screen, always portrait, Format_RGB32. Landscape content (1280 x 720) is turned into it so that it
+    // is upright after turning the frame by -90 degrees: content (x, y) is at frame (719 - y, x). Draws what
+    // has changed first. The reference stays valid, the pixels change with the next call.
+    const QImage &frame();
+    // Bounding rectangle, in frame coordinates, of what changed since the last call; empty = nothing. Draws.
+    QRect takeDirty();
+    // Counts up whenever the picture is about to change; equal values mean an equal picture. Does not draw.
+    std::uint64_t pictureVersion() const;
+
+    // When the device wants to be ticked next; none while nothing moves. Times in the past = at once.
+    std::optional<TimePoint> nextTick() const;
+    // Moves on whatever is due at `now`; may be late or early.
+    void tick(TimePoint now);
+
+    // Boot screen for about two seconds, then the launcher; apps are closed, fingers and keys lifted.
+    void reboot(TimePoint time);
+    bool isBooting() const;
+    // Brings "Home" or an app to the front. False when there is no such app or the device is starting.
+    bool openApp(const std::string &name);
+    // What the app in front shows, as a JSON object in UTF-8; docs/api.md lists the members.
+    std::string appStateJson() const;
+    // Asks the clients for the camera, or no longer.
+    void requestCamera(bool on);
+
+    // Input that was received after `sequence`, oldest first; bounded to the newest.
+    std::vector<InputRecord> inputsSince(std::uint64_t sequence) const;
+
+    // What the device has to tell its clients. Called from within the calls above, on their thread; must not
+    // call back into the device. Any may be empty.
+    std::function<void(int inputType, int state, int width, int height)> onSensorRequest; // 212 = camera
+    std::function<void(const std::string &utf8)> onClipboard; // the user copied text on the device
+    std::function<void(int rotation)> onRotation; // 0 to 3, after a change
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace orvane::cloud
