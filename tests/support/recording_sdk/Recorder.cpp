@@ -95,8 +95,20 @@ void Recorder::lockReleased()
     --locksHeld;
 }
 
-void Recorder::add(std::string text)
+void Recorder::setObserver(std::function<void(const std::string &)> observer)
 {
     const std::lock_guard<std::mutex> lock(m_lock);
-    m_calls.push_back({std::move(text), locksHeld > 0});
+    m_observer = std::move(observer);
+}
+
+void Recorder::add(std::string text)
+{
+    std::function<void(const std::string &)> observer;
+    {
+        const std::lock_guard<std::mutex> lock(m_lock);
+        m_calls.push_back({text, locksHeld > 0});
+        observer = m_observer;
+    }
+    if (observer)
+        observer(text);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <sstream>
@@ -34,6 +35,10 @@ public:
     // The listener of the newest data source and the display of the newest player; none after their end.
     SWDataSourceListener *listener() const;
     VideoDisplay *display() const;
+
+    // Called with every call as it is made, on the thread that makes it; none = nobody. Set it while no call is
+    // under way.
+    void setObserver(std::function<void(const std::string &)> observer);
 
     // For the recording SDK itself.
     template <typename... Args>
@@ -71,6 +76,7 @@ private:
 
     mutable std::mutex m_lock; // guards everything below
     std::vector<Call> m_calls;
+    std::function<void(const std::string &)> m_observer;
     std::optional<std::pair<int, int>> m_remoteSize;
     SWDataSourceListener *m_listener = nullptr;
     VideoDisplay *m_display = nullptr;
