@@ -9,6 +9,8 @@ import { errorText, signInErrorText, type ErrorText } from '@/util/errorText'
 // The main view's first size, in logical pixels.
 const MAIN_WINDOW_SIZE = { width: 1120, height: 760 }
 
+const SESSION_ENDED: ErrorText = { key: 'errors.sessionEnded' }
+
 export type SignInPhase = 'idle' | 'restoring' | 'busy'
 
 // Signing in, with account and password or with the session of an earlier start, up to the main view.
@@ -21,9 +23,7 @@ export function useSignIn() {
   })
 
   const phase = ref<SignInPhase>('idle')
-  const error = shallowRef<ErrorText | null>(
-    session.endedByService.value ? { key: 'errors.sessionEnded' } : null,
-  )
+  const error = shallowRef<ErrorText | null>(session.endedByService.value ? SESSION_ENDED : null)
   const restoreFailed = ref(false)
 
   async function enter({ accessToken, loginId }: Session): Promise<void> {
@@ -63,8 +63,12 @@ export function useSignIn() {
       await enter(remembered)
       return
     }
+    if (session.endedByService.value) {
+      error.value = SESSION_ENDED
+      return
+    }
     const failure = devices.error.value
-    restoreFailed.value = !session.endedByService.value
+    restoreFailed.value = true
     error.value = failure && errorText(failure)
     session.suspend()
   }
