@@ -1,0 +1,354 @@
+#include "Recorder.h"
+#include "WebTestSupport.h"
+
+#include "base/AppPaths.h"
+#include "net/HttpHelper.h"
+#include "web/OvJsApi.h"
+#include "web/OvMainWindow.h"
+#include "web/OvMainWindowJsApi.h"
+#include "web/OvWebContainer.h"
+#include "web/OvWebView.h"
+#include "widgets/OvTitleBarBase.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMetaMethod>
+#include <QScreen>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <QWebEngineView>
+
+using webtest::evaluate;
+
+namespace {
+
+// The message handler that is installed now.
+QtMessageHandler messageHandler()
+{
+    const QtMessageHandler current = qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(current);
+    return current;
+}
+
+OvMainWindow *windowUnderConstruction()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *window = qobject_cast<OvMainWindow *>(widget))
+            return window;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+// The main window: what its construction starts and in which order, its slots, its end.
+class TestOvMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void startUpOrder();
+    void interfaceOrder();
+    void loginWindow();
+    void workingSize();
+    void workingSizeOutOfRange_data();
+    void workingSizeOutOfRange();
+    void moves();
+    void maximizesAndRestores();
+    void shortcutOnlyAfterSignIn();
+    void minimizes();
+    void languageReachesTheRequests();
+    void closingEndsTheEventLoop();
+    void runtimeEndsWithTheWindow();
+    void delayedInstallerStartsAfterTheRuntimeEnded();
+    void installerAtOnceClosesTheWindow();
+    void missingInstallerIsNotStarted();
+    void bridgeSignalsReachTheSlots();
+
+private:
+    QString installerScript(const QString &marker);
+
+    QTemporaryDir m_dir;
+};
+
+void TestOvMainWindow::initTestCase()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QDir(AppPaths::logDir()).removeRecursively();
+}
+
+// Must run first: the log handler is installed once and stays.
+void TestOvMainWindow::startUpOrder()
+{
+    Recorder::instance().reset();
+    const QtMessageHandler handlerBefore = messageHandler();
+    QStringList seen;
+    Recorder::instance().setObserver([&seen, handlerBefore](const std::string &call) {
+        if (call.rfind("SWRuntime::init", 0) != 0)
+            return;
+        const OvMainWindow *window = windowUnderConstruction();
+        seen << QString::fromStdString(call);
+        seen << (QDir(AppPaths::logDir()).exists() ? QStringLiteral("log directory") : QString());
+        seen << (window->jsApi() && window->webContainer()->webView()->jsApi() == window->jsApi()
+                ? QStringLiteral("page API published")
+                : QString());
+        seen << (window->titleBar()->isHidden() && window->titleBar()->height() == 0
+                ? QStringLiteral("no title bar")
+                : QString());
+        seen << (window->findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly).isEmpty()
+                ? QStringLiteral("no shortcut yet")
+                : QString());
+        seen << (messageHandler() == handlerBefore ? QStringLiteral("no log handler yet") : QString());
+    });
+    {
+        const OvMainWindow window;
+        Recorder::instance().setObserver({});
+        const QString logDir
+            = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/log");
+        QCOMPARE(seen,
+            (QStringList{QStringLiteral("SWRuntime::init(1, \"%1\")").arg(logDir),
+                QStringLiteral("log directory"), QStringLiteral("page API published"),
+                QStringLiteral("no title bar"), QStringLiteral("no shortcut yet"),
+                QStringLiteral("no log handler yet")}));
+        QVERIFY(messageHandler() != handlerBefore);
+        const auto shortcuts = window.findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(shortcuts.size(), 1);
+        QCOMPARE(shortcuts.at(0)->key(), QKeySequence(Qt::Key_F11));
+        QVERIFY(Recorder::instance().takeCalls().size() == 1);
+    }
+}
+
+void TestOvMainWindow::interfaceOrder()
+{
+    const QStringList expected{QStringLiteral("onSetWindowSize(int,int)"),
+        QStringLiteral("onMoveWindow(int,int)"), QStringLiteral("onCloseWindow()"),
+        QStringLiteral("onMinimizeWindow()"), QStringLiteral("onMaximizeWindow()"),
+        QStringLiteral("onRestoreWindow()"), QStringLiteral("onSetLanguage(QString)"),
+        QStringLiteral("onInstallNewVersionApp(QString,bool)"),
+        QStringLiteral("onMaximumShortcutActivated()")};
+    QStringList actual;
+    const QMetaObject &meta = OvMainWindow::staticMetaObject;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        actual << QString::fromLatin1(meta.method(i).methodSignature());
+    QCOMPARE(actual, expected);
+}
+
+void TestOvMainWindow::loginWindow()
+{
+    OvMainWindow window;
+    QCOMPARE(window.size(), QSize(320, 508)); // 300 x 488 and the shadow margin
+    QVERIFY(!window.windowIcon().isNull());
+    QCOMPARE(window.windowTitle(), QStringLiteral("Orvane"));
+    QCOMPARE(window.webContainer()->webView()->url(),
+        QUrl(QStringLiteral("file:///") + QCoreApplication::applicationDirPath()
+            + QStringLiteral("/res/html/orvane/index.html")));
+    QVERIFY(window.webContainer()->webView()->testAttribute(Qt::WA_MouseTracking));
+    QCOMPARE(window.layout()->contentsMargins(), QMargins(10, 10, 10, 10));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCOMPARE(window.size(), QSize(320, 508));
+    QCOMPARE(window.webContainer()->size(), QSize(300, 488));
+}
+
+void TestOvMainWindow::workingSize()
+{
+    OvMainWindow window;
+    window.show();
+    window.onSetWindowSize(1120, 760);
+    QCOMPARE(window.size(), QSize(1140, 780));
+    QCOMPARE(window.minimumSize(), QSize(1000, 720));
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    QTRY_COMPARE(window.pos(),
+        available.topLeft() + QPoint((available.width() - 1140) / 2, (available.height() - 780) / 2));
+    QCOMPARE(window.webContainer()->size(), QSize(1120, 760));
+}
+
+void TestOvMainWindow::workingSizeOutOfRange_data()
+{
+    QTest::addColumn<QSize>("asked");
+    QTest::newRow("zero") << QSize(0, 0);
+    QTest::newRow("negative") << QSize(-5, -2000000000);
+    QTest::newRow("small") << QSize(10, 10);
+}
+
+void TestOvMainWindow::workingSizeOutOfRange()
+{
+    QFETCH(QSize, asked);
+    OvMainWindow window;
+    window.onSetWindowSize(asked.width(), asked.height());
+    QCOMPARE(window.size(), QSize(1000, 720));
+}
+
+void TestOvMainWindow::moves()
+{
+    OvMainWindow window;
+    window.show();
+    window.move(200, 150);
+    window.onMoveWindow(-30, 12);
+    QTRY_COMPARE(window.pos(), QPoint(170, 162));
+    QCOMPARE(window.size(), QSize(320, 508));
+}
+
+void TestOvMainWindow::maximizesAndRestores()
+{
+    OvMainWindow window;
+    window.show();
+    window.onSetWindowSize(1120, 760);
+    window.move(77, 55);
+    const QRect before = window.geometry();
+    window.onMaximizeWindow();
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    const QRect expected = available.adjusted(-3, -3, 3, 3);
+    QTRY_COMPARE(window.geometry(), expected);
+    QCOMPARE(window.webContainer()->size(), expected.size()); // no shadow margin while maximised
+    window.onMaximizeWindow();
+    QCOMPARE(window.geometry(), expected);
+
+    window.onRestoreWindow();
+    QTRY_COMPARE(window.geometry(), before);
+    QCOMPARE(window.webContainer()->size(), QSize(1120, 760));
+    window.onRestoreWindow();
+    QCOMPARE(window.geometry(), before);
+}
+
+void TestOvMainWindow::shortcutOnlyAfterSignIn()
+{
+    OvMainWindow window;
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QRect login = window.geometry();
+    QTest::keyClick(&window, Qt::Key_F11);
+    QCOMPARE(window.geometry(), login);
+
+    window.onSetWindowSize(1120, 760);
+    const QRect normal = window.geometry();
+    const QRect maximized = QGuiApplication::primaryScreen()->availableGeometry().adjusted(-3, -3, 3, 3);
+    QTest::keyClick(&window, Qt::Key_F11);
+    QTRY_COMPARE(window.geometry(), maximized);
+    QTest::keyClick(&window, Qt::Key_F11);
+    QTRY_COMPARE(window.geometry(), normal);
+}
+
+void TestOvMainWindow::minimizes()
+{
+    OvMainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.onMinimizeWindow();
+    QTRY_VERIFY(window.isMinimized());
+}
+
+void TestOvMainWindow::languageReachesTheRequests()
+{
+    OvMainWindow window;
+    window.onSetLanguage(QStringLiteral("jp"));
+    QCOMPARE(HttpHelper::language(), QStringLiteral("jp"));
+}
+
+void TestOvMainWindow::closingEndsTheEventLoop()
+{
+    OvMainWindow window;
+    window.show();
+    QWidget other; // another window that stays open
+    other.show();
+    QPointer<OvWebContainer> container = window.webContainer();
+    QTimer::singleShot(
+        0, &window, [&] { window.jsApi()->callJsApi(webtest::callText(QStringLiteral("closeWindow"))); });
+    QTimer watchdog;
+    bool timedOut = false;
+    connect(&watchdog, &QTimer::timeout, qApp, [&] {
+        timedOut = true;
+        QCoreApplication::quit();
+    });
+    watchdog.start(10000);
+    QCOMPARE(QApplication::exec(), 0);
+    QVERIFY(!timedOut);
+    QVERIFY(!window.isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(container.isNull());
+}
+
+void TestOvMainWindow::runtimeEndsWithTheWindow()
+{
+    auto window = std::make_unique<OvMainWindow>();
+    Recorder::instance().takeCalls();
+    window.reset();
+    QCOMPARE(Recorder::instance().takeCalls(), std::vector<std::string>{"SWRuntime::deinit()"});
+}
+
+QString TestOvMainWindow::installerScript(const QString &marker)
+{
+    const QString path = m_dir.filePath(QStringLiteral("Orvane_Setup.sh"));
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write("#!/bin/sh\ntouch '" + marker.toUtf8() + "'\n");
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
+}
+
+void TestOvMainWindow::delayedInstallerStartsAfterTheRuntimeEnded()
+{
+    const QString marker = m_dir.filePath(QStringLiteral("delayed"));
+    const QString installer = installerScript(marker);
+    auto window = std::make_unique<OvMainWindow>();
+    window->onInstallNewVersionApp(installer, true);
+    QVERIFY(!QFile::exists(marker));
+    // The installer is there only once the runtime has ended: had it been started before, it would be
+    // missing.
+    QFile::rename(installer, installer + QStringLiteral(".hidden"));
+    Recorder::instance().setObserver([&](const std::string &call) {
+        if (call == "SWRuntime::deinit()")
+            QFile::rename(installer + QStringLiteral(".hidden"), installer);
+    });
+    window.reset();
+    Recorder::instance().setObserver({});
+    QTRY_VERIFY(QFile::exists(marker));
+}
+
+void TestOvMainWindow::installerAtOnceClosesTheWindow()
+{
+    const QString marker = m_dir.filePath(QStringLiteral("at-once"));
+    OvMainWindow window;
+    window.show();
+    window.onInstallNewVersionApp(installerScript(marker), false);
+    QTRY_VERIFY(QFile::exists(marker));
+    QVERIFY(!window.isVisible());
+}
+
+void TestOvMainWindow::missingInstallerIsNotStarted()
+{
+    const webtest::LogCapture log;
+    auto window = std::make_unique<OvMainWindow>();
+    window->onInstallNewVersionApp(m_dir.filePath(QStringLiteral("missing")), true);
+    window.reset();
+    QVERIFY(!QFile::exists(m_dir.filePath(QStringLiteral("missing"))));
+}
+
+void TestOvMainWindow::bridgeSignalsReachTheSlots()
+{
+    OvMainWindow window;
+    window.show();
+    OvMainWindowJsApi *api = window.jsApi();
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"setWindowSize","width":1200,"height":800})"));
+    QCOMPARE(window.size(), QSize(1220, 820));
+    const QPoint before = window.pos();
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"moveWindow","x":3,"y":4})"));
+    QTRY_COMPARE(window.pos(), before + QPoint(3, 4));
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"maximizeWindow"})"));
+    QTRY_COMPARE(
+        window.geometry(), QGuiApplication::primaryScreen()->availableGeometry().adjusted(-3, -3, 3, 3));
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"restoreWindow"})"));
+    QTRY_COMPARE(window.size(), QSize(1220, 820));
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"setLanguage","lang":"ar"})"));
+    QCOMPARE(HttpHelper::language(), QStringLiteral("ar"));
+    api->callJsApi(QStringLiteral(R"({"jsApiName":"minimizeWindow"})"));
+    QTRY_VERIFY(window.isMinimized());
+}
+
+QTEST_MAIN(TestOvMainWindow)
+#include "tst_ovmainwindow.moc"

@@ -1,0 +1,248 @@
+#include "Client.h"
+#include "Desktop.h"
+#include "Screens.h"
+#include "Service.h"
+#include "Waiting.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QRegularExpression>
+#include <QTest>
+
+using e2e::Client;
+using e2e::Desktop;
+using e2e::Service;
+using e2e::settledPicture;
+using e2e::waitUntil;
+
+namespace {
+const QString mainWindow = QStringLiteral("Orvane");
+constexpr int shadowMargin = 10;
+} // namespace
+
+// The real client and the real service, worked with pointer and keyboard.
+class TestClient : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void signInWindowAndFiles();
+    void wrongPasswordStaysOnThePage();
+    void rememberedSessionOutlivesARestart();
+    void deviceWindowOpensOnceAndIsGivenBack();
+    void closedByTheWindowManagerIsGivenBackToo();
+    void everyLogLineHasItsForm();
+
+private:
+    void signIn(const QString &password = QStringLiteral("orvane-demo"));
+    void waitForSignInPage();
+    void waitForDeviceList();
+    void openFirstDevice();
+    // The client's main window is closed as a person closes it; it must end with 0.
+    void closeMainWindow();
+    QString firstDevice(const char *member) const;
+    int connectedSessions() const;
+
+    std::unique_ptr<Service> m_service;
+    std::unique_ptr<Client> m_client;
+};
+
+void TestClient::init()
+{
+    const QString programs = QCoreApplication::applicationDirPath();
+    m_service = std::make_unique<Service>(programs + QStringLiteral("/orvane-cloud"), 3);
+    m_service->start();
+    m_client = std::make_unique<Client>(programs + QStringLiteral("/orvane"));
+    m_client->setApiBaseUrl(m_service->apiBaseUrl());
+    m_client->start();
+}
+
+void TestClient::cleanup()
+{
+    if (QTest::currentTestFailed()) {
+        const QString picture = QDir::current().filePath(
+            QStringLiteral("failed-%1.png").arg(QLatin1String(QTest::currentTestFunction())));
+        Desktop::screenshot().save(picture);
+        qInfo().noquote() << "screen:" << picture << "\nclient log:" << m_client->log().right(4000)
+                          << "\nclient:" << m_client->output().right(2000)
+                          << "\nservice:" << m_service->output().right(2000);
+    }
+    m_client.reset();
+    m_service.reset();
+}
+
+void TestClient::waitForSignInPage()
+{
+    waitUntil(
+        QStringLiteral("the sign-in window"), [] { return !Desktop::window(mainWindow).isEmpty(); }, 30000);
+    settledPicture(QStringLiteral("the sign-in page"), Desktop::window(mainWindow), 30000);
+}
+
+void TestClient::waitForDeviceList()
+{
+    waitUntil(
+        QStringLiteral("the device list"), [] { return Desktop::window(mainWindow).width() >= 1000; }, 30000);
+    settledPicture(QStringLiteral("the device list is painted"), Desktop::window(mainWindow));
+}
+
+void TestClient::signIn(const QString &password)
+{
+    waitForSignInPage();
+    Desktop::activate(mainWindow);
+    Desktop::type(QStringLiteral("demo"));
+    Desktop::key(QStringLiteral("Tab"));
+    Desktop::type(password);
+    Desktop::key(QStringLiteral("Return"));
+}
+
+QString TestClient::firstDevice(const char *member) const
+{
+    return m_service->admin(QStringLiteral("GET"), QStringLiteral("/admin/devices"))
+        .value(QLatin1String("devices"))
+        .toArray()
+        .at(0)
+        .toObject()
+        .value(QLatin1String(member))
+        .toString();
+}
+
+int TestClient::connectedSessions() const
+{
+    return m_service->admin(QStringLiteral("GET"), QStringLiteral("/admin/stats"))
+        .value(QLatin1String("sessions"))
+        .toArray()
+        .size();
+}
+
+void TestClient::openFirstDevice()
+{
+    Desktop::activate(mainWindow);
+    Desktop::type(firstDevice("alias_name"));
+    Desktop::key(QStringLiteral("Tab"));
+    Desktop::key(QStringLiteral("Tab"));
+    Desktop::key(QStringLiteral("Return"));
+    waitUntil(QStringLiteral("the device window"),
+        [this] { return !Desktop::window(firstDevice("alias_name")).isEmpty(); });
+    waitUntil(QStringLiteral("the session"), [this] { return connectedSessions() == 1; });
+}
+
+void TestClient::closeMainWindow()
+{
+    Desktop::activate(mainWindow);
+    Desktop::key(QStringLiteral("alt+F4"));
+    m_client->waitForExit();
+    QCOMPARE(m_client->exitCode(), 0);
+}
+
+void TestClient::signInWindowAndFiles()
+{
+    waitForSignInPage();
+    const QRect window = Desktop::window(mainWindow);
+    QCOMPARE(window.size(), QSize(300 + 2 * shadowMargin, 488 + 2 * shadowMargin));
+    // F11 does nothing before sign-in.
+    Desktop::activate(mainWindow);
+    Desktop::key(QStringLiteral("F11"));
+    QCOMPARE(settledPicture(QStringLiteral("still the page"), window).size(), window.size());
+    QCOMPARE(Desktop::window(mainWindow), window);
+    // Today's log of the client, and the streaming runtime's beside it.
+    const QDir logs(m_client->dataDir() + QStringLiteral("/log"));
+    QVERIFY(
+        logs.exists(QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log")));
+    QVERIFY(logs.entryList({QStringLiteral("*.log")}).size() >= 2);
+    closeMainWindow();
+}
+
+void TestClient::wrongPasswordStaysOnThePage()
+{
+    waitForSignInPage();
+    const QImage before = Desktop::screenshot(Desktop::window(mainWindow));
+    signIn(QStringLiteral("wrong"));
+    waitUntil(QStringLiteral("the page says so"),
+        [&] { return e2e::difference(before, Desktop::screenshot(Desktop::window(mainWindow))) > 0.01; });
+    QCOMPARE(Desktop::window(mainWindow).size(), QSize(320, 508));
+}
+
+void TestClient::rememberedSessionOutlivesARestart()
+{
+    signIn();
+    waitForDeviceList();
+    // F11 now toggles the maximised size.
+    const QRect normal = Desktop::window(mainWindow);
+    Desktop::activate(mainWindow);
+    Desktop::key(QStringLiteral("F11"));
+    waitUntil(
+        QStringLiteral("maximised"), [] { return Desktop::window(mainWindow) == QRect(-3, -3, 1926, 1086); });
+    Desktop::key(QStringLiteral("F11"));
+    waitUntil(QStringLiteral("restored"), [&] { return Desktop::window(mainWindow) == normal; });
+    closeMainWindow();
+
+    m_client->start();
+    waitForDeviceList();
+    openFirstDevice();
+}
+
+void TestClient::deviceWindowOpensOnceAndIsGivenBack()
+{
+    signIn();
+    waitForDeviceList();
+    openFirstDevice();
+    const QString name = firstDevice("alias_name");
+    const QRect window = Desktop::window(name);
+    // Asked for again, the window that is there comes back.
+    Desktop::activate(mainWindow);
+    Desktop::key(QStringLiteral("Return"));
+    waitUntil(QStringLiteral("the second request"),
+        [this] { return m_client->log().count(QStringLiteral("openSingleControlWnd called")) == 2; });
+    QCOMPARE(Desktop::window(name).size(), window.size());
+    QCOMPARE(connectedSessions(), 1);
+    QCOMPARE(m_client->log().count(QStringLiteral("device apply request start")), 1);
+
+    Desktop::activate(name);
+    Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + 20});
+    waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
+    waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
+    QVERIFY(m_client->isRunning());
+}
+
+void TestClient::closedByTheWindowManagerIsGivenBackToo()
+{
+    signIn();
+    waitForDeviceList();
+    openFirstDevice();
+    const QString name = firstDevice("alias_name");
+    const QString pad = firstDevice("pad_code");
+    Desktop::activate(name);
+    Desktop::key(QStringLiteral("alt+F4"));
+    waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
+    waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
+    QVERIFY(m_client->isRunning());
+    closeMainWindow();
+}
+
+void TestClient::everyLogLineHasItsForm()
+{
+    signIn();
+    waitForDeviceList();
+    closeMainWindow();
+    static const QRegularExpression begin(QStringLiteral(
+        "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} \\[(DEBUG|INFO|WARNING|CRITICAL|FATAL)\\]: "));
+    int lines = 0;
+    for (const QString &line : m_client->log().split(QLatin1Char('\n'))) {
+        // Further lines of one message are those of a JSON document.
+        const bool dated = begin.match(line).hasMatch();
+        lines += dated;
+        QVERIFY2(dated || !line.contains(QLatin1String("]: ")), qPrintable(line));
+    }
+    QVERIFY(lines > 3);
+    QVERIFY(m_client->log().contains(QStringLiteral("setLoginParams called, params ---> ")));
+}
+
+QTEST_MAIN(TestClient)
+#include "tst_client.moc"
