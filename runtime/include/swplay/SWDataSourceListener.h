@@ -15,7 +15,7 @@ public:
     virtual void onConnected();
     // The session ended and will not be tried again. `reason`: a SWDisconnectReason value.
     virtual void onDisconnected(int reason);
-    // The connection was lost and is tried again. `attempt` counts from 1.
+    // The connection was lost or not reached, and is tried again now. `attempt` counts from 1.
     virtual void onReconnecting(int attempt);
     // The device's screen was turned: 0 to 3 quarter turns, odd = landscape.
     virtual void onScreenRotation(int rotation);
@@ -40,4 +40,5 @@ enum SWDisconnectReason {
     SWDisconnectExpired = 2,       // the device's time is over
     SWDisconnectUnsupported = 3,   // the gateway speaks another protocol version
     SWDisconnectBadParameters = 4, // address, port or session id missing or malformed
+    SWDisconnectProtocolError = 5, // the gateway sent something malformed or too large
 };

@@ -1,0 +1,3 @@
+#include "swplay/DataSource.h"
+
+DataSource::~DataSource() = default;
