@@ -1,0 +1,28 @@
+#pragma once
+
+#include "api/Fields.h"
+#include "api/SignInStore.h"
+
+#include <QJsonObject>
+
+#include <string>
+
+namespace orvane::cloud {
+
+// What a handler gets of one request. Lives on the handling thread.
+struct ApiCall
+{
+    Fields body; // members of the JSON body; empty for GET
+    Fields query; // values of the query as texts
+    std::string pad; // the {pad} of the path, "" if its pattern has none
+    SignIn signIn; // who calls; unset for routes that are open to everybody
+};
+
+// What a handler answers: the envelope's data or, instead of an envelope, a picture.
+struct ApiAnswer
+{
+    QJsonObject data;
+    std::string png; // not empty: PNG bytes
+};
+
+} // namespace orvane::cloud

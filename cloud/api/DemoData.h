@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+namespace orvane::cloud {
+
+struct ServiceData;
+
+constexpr int defaultDeviceCount = 12;
+constexpr int maxDeviceCount = 1000;
+
+// Fills an empty service with the account "demo" (password "orvane-demo") and its devices, and with the
+// account "second" (password "orvane-second") and two devices of its own.
+//
+// `deviceCount`: how many devices the demo account has, 0 to maxDeviceCount. Without it a new service gets
+// defaultDeviceCount and an existing one keeps what it has; with it devices are added or removed at the end
+// of the list. Called once at the start, before the devices run. Throws DatabaseError.
+void prepareDemoData(ServiceData &data, std::optional<int> deviceCount);
+
+} // namespace orvane::cloud

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "api/ApiCall.h"
+#include "api/ApiError.h"
+#include "api/HttpMessages.h"
+
+#include <boost/beast/http/status.hpp>
+
+#include <string>
+
+namespace orvane::cloud {
+
+// The replies of the API, complete but for what depends on the connection (keep-alive, version). Any thread.
+
+// {"code", "msg", "data"} with HTTP status 200.
+HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJsonObject &data = {});
+// The handler's answer: an envelope, or the picture itself.
+HttpResponse answerReply(const ApiAnswer &answer);
+// Something is wrong with the HTTP request itself. The body is an envelope whose code is the status.
+HttpResponse errorReply(boost::beast::http::status status, const std::string &message);
+// Answer to OPTIONS, for which a page asks before it calls from another origin. `methods`: "GET, OPTIONS".
+HttpResponse optionsReply(const std::string &methods);
+
+} // namespace orvane::cloud

@@ -1,0 +1,75 @@
+#include "api/Schema.h"
+
+#include "api/Database.h"
+#include "api/DatabaseError.h"
+#include "api/Statement.h"
+
+#include <string>
+
+namespace orvane::cloud {
+
+namespace {
+
+// Step n (from 0) leads from version n to n + 1. Steps that were released are never edited: add one.
+// Times are milliseconds since 1970-01-01 UTC.
+constexpr const char *schemaSteps[] = {
+    R"(
+    CREATE TABLE users (
+        id INTEGER PRIMARY KEY,
+        account TEXT NOT NULL UNIQUE,
+        name TEXT NOT NULL,
+        password_hash TEXT NOT NULL
+    );
+    CREATE TABLE sign_ins (
+        id INTEGER PRIMARY KEY AUTOINCREMENT,
+        token_hash TEXT NOT NULL UNIQUE,
+        login_id TEXT NOT NULL,
+        user_id INTEGER NOT NULL REFERENCES users(id) ON DELETE CASCADE,
+        expires_at INTEGER NOT NULL
+    );
+    CREATE TABLE devices (
+        service_id TEXT PRIMARY KEY,
+        pad_code TEXT NOT NULL UNIQUE,
+        alias_name TEXT NOT NULL,
+        user_id INTEGER NOT NULL REFERENCES users(id) ON DELETE CASCADE,
+        pay_mode TEXT NOT NULL,
+        expires_at INTEGER NOT NULL
+    );
+    CREATE INDEX devices_of_user ON devices(user_id);
+    CREATE TABLE stream_sessions (
+        id INTEGER PRIMARY KEY AUTOINCREMENT,
+        session_id TEXT NOT NULL UNIQUE,
+        pad_code TEXT NOT NULL REFERENCES devices(pad_code) ON DELETE CASCADE,
+        user_id INTEGER NOT NULL REFERENCES users(id) ON DELETE CASCADE,
+        sign_in_id INTEGER NOT NULL REFERENCES sign_ins(id) ON DELETE CASCADE
+    );
+    CREATE INDEX stream_sessions_of_device ON stream_sessions(pad_code, user_id);
+    CREATE INDEX stream_sessions_of_sign_in ON stream_sessions(sign_in_id);
+    )",
+};
+constexpr int schemaVersion = static_cast<int>(std::size(schemaSteps));
+
+int currentVersion(Database &database)
+{
+    Statement statement(database, "PRAGMA user_version");
+    return statement.step() ? static_cast<int>(statement.integer(0)) : 0;
+}
+
+} // namespace
+
+void updateSchema(Database &database)
+{
+    const int found = currentVersion(database);
+    if (found > schemaVersion)
+        throw DatabaseError("written by a newer version of this program (schema " + std::to_string(found)
+            + ", this program knows up to " + std::to_string(schemaVersion) + ")");
+    for (int version = found; version < schemaVersion; ++version) {
+        // An error leaves the transaction open; closing the connection rolls it back.
+        database.execute("BEGIN IMMEDIATE");
+        database.execute(schemaSteps[version]);
+        database.execute(("PRAGMA user_version = " + std::to_string(version + 1)).c_str());
+        database.execute("COMMIT");
+    }
+}
+
+} // namespace orvane::cloud
