@@ -41,6 +41,7 @@ export default defineConfig({
     environment: 'jsdom',
     include: ['tests/**/*.test.ts'],
     setupFiles: ['tests/support/setup.ts'],
+    fakeTimers: { toFake: ['setTimeout', 'clearTimeout'] },
     restoreMocks: true,
     unstubGlobals: true,
   },

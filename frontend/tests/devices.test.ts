@@ -9,15 +9,18 @@ import { mountApp, SESSION, type AppUnderTest } from './support/mountApp'
 const LIST = '/apiv1/device/list'
 const ACTION = '/apiv1/device/actionDevice'
 
+// An element that is there.
+type Found = Omit<DOMWrapper<Element>, 'exists'>
+
 function names(page: DOMWrapper<Element>): string[] {
   return page.findAll('h3').map((name) => name.text())
 }
 
-function card(page: DOMWrapper<Element>, serviceId: string): DOMWrapper<Element> {
+function card(page: DOMWrapper<Element>, serviceId: string): Found {
   return page.get(`[data-service-id="${serviceId}"]`)
 }
 
-function refreshNow(): Promise<void> {
+function refreshNow(): Promise<unknown> {
   window.dispatchEvent(new Event('focus'))
   return flushPromises()
 }
@@ -291,9 +294,9 @@ describe('opening a device', () => {
   const openCall = { name: 'openSingleControlWnd', params: { serviceId: '1', aliasName: 'Aurora' } }
 
   it.each([
-    ['Enter', (item: DOMWrapper<Element>) => item.trigger('keydown', { key: 'Enter' })],
-    ['a double click', (item: DOMWrapper<Element>) => item.trigger('dblclick')],
-    ['the button', (item: DOMWrapper<Element>) => item.get('[data-test="open"]').trigger('click')],
+    ['Enter', (item: Found) => item.trigger('keydown', { key: 'Enter' })],
+    ['a double click', (item: Found) => item.trigger('dblclick')],
+    ['the button', (item: Found) => item.get('[data-test="open"]').trigger('click')],
   ])('works with %s', async (_how, open) => {
     const { page, bridge } = await mountDevices(listedDevice('1', 'Aurora'))
     await open(card(page, '1'))
