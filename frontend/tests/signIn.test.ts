@@ -110,10 +110,16 @@ describe('signing in', () => {
     const answer = service.answers[LOGIN]!
     service.answers[LOGIN] = { code: 403 }
     await signIn()
-    service.answers[LOGIN] = 'hang'
+    expect(part('message').text()).not.toBe('')
+    let finish: (envelope: unknown) => void = () => undefined
+    service.answers[LOGIN] = new Promise((resolve) => {
+      finish = resolve
+    })
     await page.get('form').trigger('submit')
     expect(part('message').text()).toBe('')
-    service.answers[LOGIN] = answer
+    finish(answer)
+    await flushPromises()
+    expect(page.find('[name="search"]').exists()).toBe(true)
   })
 
   it('shows and hides the password', async () => {
