@@ -1,0 +1,16 @@
+#include "web/CenterOnScreen.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+void centerOnScreen(QWidget *widget)
+{
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        const QRect available = screen->availableGeometry();
+        widget->move(available.x() + (available.width() - widget->width()) / 2,
+            available.y() + (available.height() - widget->height()) / 2);
+    }
+    widget->raise();
+    widget->repaint();
+}
