@@ -1,0 +1,7 @@
+#include "device/DeviceLog.h"
+
+namespace orvane::cloud {
+
+Q_LOGGING_CATEGORY(deviceLog, "orvane.device")
+
+} // namespace orvane::cloud

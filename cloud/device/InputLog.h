@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/DeviceFleet.h"
+
+#include <QJsonObject>
+
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace orvane::cloud {
+
+// The newest input events of one device. Thread-compatible, owned by the device.
+class InputLog
+{
+public:
+    static constexpr std::size_t MaxRecords = 20'000;
+    // The oldest records go when their texts are larger than this together; the newest record always stays.
+    static constexpr std::size_t MaxBytes = 8 * 1024 * 1024;
+
+    void add(
+        std::chrono::steady_clock::time_point time, const std::string &session, const QJsonObject &event);
+    // Records after `sequence`, oldest first.
+    std::vector<InputRecord> since(std::uint64_t sequence) const;
+
+private:
+    std::deque<InputRecord> m_records;
+    std::uint64_t m_lastSequence = 0;
+    std::size_t m_bytes = 0; // of session ids and JSON
+};
+
+} // namespace orvane::cloud

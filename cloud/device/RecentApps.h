@@ -1,0 +1,59 @@
+#pragma once
+
+#include "device/AppCatalog.h"
+#include "device/PushButton.h"
+
+#include <QImage>
+
+#include <optional>
+#include <vector>
+
+namespace orvane::cloud {
+
+// The overview of the apps that are open: a card with a picture for each. Covers the whole screen while it is
+// shown. Used by the device's thread, part of the shell, which invalidates the screen after every touch.
+class RecentApps
+{
+public:
+    struct Card
+    {
+        AppKind kind;
+        QImage picture;
+    };
+    enum class Choice {
+        Nothing,
+        Close, // go back to where the user was
+        Open, // the chosen app
+        CloseAll,
+    };
+
+    RecentApps();
+
+    bool isShown() const { return m_shown; }
+    // Size of a card's picture for that screen.
+    static QSize pictureSize(QSize screen);
+    void show(std::vector<Card> cards, QSize screen);
+    void hide();
+
+    void touchDown(const Pointer &pointer);
+    void touchCancel(int pointerId);
+    // What the finger that leaves the screen chose.
+    Choice touchUp(const Pointer &pointer);
+    AppKind chosen() const { return m_chosen; } // after Choice::Open
+
+    void draw(QPainter &painter, QSize screen, const QRect &clip) const;
+
+private:
+    QRect pictureRect(std::size_t index) const;
+    std::optional<std::size_t> cardAt(QPoint position) const;
+
+    bool m_shown = false;
+    std::vector<Card> m_cards;
+    QSize m_screen;
+    PushButton m_closeAll;
+    int m_pointer = 0; // 0 = none
+    std::optional<std::size_t> m_pressed; // card under that finger when it came down
+    AppKind m_chosen = AppKind::Home;
+};
+
+} // namespace orvane::cloud

@@ -1,0 +1,100 @@
+#include "device/Surface.h"
+
+#include "device/DeviceLog.h"
+
+#include <QPainter>
+
+#include <libyuv/rotate_argb.h>
+
+namespace orvane::cloud {
+
+namespace {
+
+constexpr int BytesPerPixel = 4;
+
+} // namespace
+
+Surface::Surface(QSize portrait)
+    : m_portrait(portrait)
+    , m_pending(QRect({}, portrait))
+{ }
+
+void Surface::setLandscape(bool landscape)
+{
+    m_landscape = landscape;
+    m_content = QImage();
+    m_pending = QRegion();
+    invalidateAll();
+}
+
+void Surface::invalidate(const QRect &rect)
+{
+    const QRect visible = rect & QRect({}, contentSize());
+    if (!visible.isEmpty()) {
+        m_pending += visible;
+        ++m_version;
+    }
+}
+
+void Surface::invalidateAll()
+{
+    invalidate(QRect({}, contentSize()));
+}
+
+void Surface::paint(const Draw &draw)
+{
+    if (m_pending.isEmpty()) {
+        return;
+    }
+    if (m_frame.isNull()) {
+        m_frame = QImage(m_portrait, QImage::Format_RGB32);
+    }
+    if (m_landscape && m_content.isNull()) {
+        m_content = QImage(contentSize(), QImage::Format_RGB32);
+    }
+    const QRegion region = std::exchange(m_pending, QRegion());
+    const QRect bounds = region.boundingRect();
+    {
+        QPainter painter(m_landscape ? &m_content : &m_frame);
+        painter.setClipRegion(region);
+        draw(painter, bounds);
+    }
+    if (m_landscape) {
+        turnIntoFrame(bounds);
+    }
+    m_dirty = m_dirty.united(toFrame(bounds));
+}
+
+void Surface::turnIntoFrame(const QRect &content)
+{
+    const QRect target = toFrame(content);
+    const int sourceStride = m_content.bytesPerLine();
+    const int targetStride = m_frame.bytesPerLine();
+    const uchar *source = m_content.constScanLine(content.top()) + content.left() * BytesPerPixel;
+    uchar *destination = m_frame.scanLine(target.top()) + target.left() * BytesPerPixel;
+    if (libyuv::ARGBRotate(source, sourceStride, destination, targetStride, content.width(), content.height(),
+            libyuv::kRotate90)
+        != 0) {
+        qCWarning(deviceLog, "cannot turn %dx%d pixels", content.width(), content.height());
+    }
+}
+
+QRect Surface::takeDirty()
+{
+    return std::exchange(m_dirty, QRect());
+}
+
+QPoint Surface::toContent(QPoint frame) const
+{
+    return m_landscape ? QPoint(frame.y(), m_portrait.width() - 1 - frame.x()) : frame;
+}
+
+QRect Surface::toFrame(const QRect &content) const
+{
+    if (!m_landscape) {
+        return content;
+    }
+    return {m_portrait.width() - 1 - content.bottom(), content.left(), content.height(), content.width()};
+}
+
+} // namespace orvane::cloud

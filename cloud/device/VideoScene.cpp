@@ -1,0 +1,235 @@
+#include "device/VideoScene.h"
+
+#include "device/Theme.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRadialGradient>
+
+#include <cmath>
+#include <random>
+
+namespace orvane::cloud {
+
+namespace {
+
+constexpr int LayerWidth = 1920; // pixels; wider than the screen, then it repeats
+constexpr qreal Turn = 6.283185307179586;
+
+struct HillStyle
+{
+    qreal top; // of the screen's height
+    qreal height; // of the ridge's ups and downs, of the screen's height
+    int waves; // over the layer's width
+    QRgb colour;
+    QRgb footColour;
+    int speed; // pixels per frame
+    int trees;
+};
+
+constexpr std::array<HillStyle, 4> Hills{{
+    {0.50, 0.10, 5, 0xFF8C7FB8, 0xFFD79AA0, 1, 0},
+    {0.60, 0.07, 4, 0xFF5C6AA8, 0xFF8F86B5, 2, 0},
+    {0.70, 0.06, 3, 0xFF2F5F86, 0xFF44789A, 4, 26},
+    {0.83, 0.045, 2, 0xFF163B55, 0xFF0E2438, 8, 15},
+}};
+
+// Height of a ridge, -1 to 1, repeating after the layer's width.
+qreal ridge(const HillStyle &style, int x)
+{
+    const qreal phase = Turn * x / LayerWidth;
+    return 0.55 * std::sin(style.waves * phase + style.waves) + 0.3 * std::sin((2 * style.waves + 1) * phase)
+        + 0.15 * std::sin((5 * style.waves + 2) * phase + 1);
+}
+
+void drawTree(QPainter &painter, QPointF foot, qreal height, QColor colour)
+{
+    painter.setBrush(colour);
+    painter.drawRect(QRectF(foot.x() - height * 0.04, foot.y() - height * 0.3, height * 0.08, height * 0.34));
+    for (int tier = 0; tier < 3; ++tier) {
+        const qreal base = foot.y() - height * (0.2 + 0.24 * tier);
+        const qreal half = height * (0.26 - 0.06 * tier);
+        painter.drawPolygon(QPolygonF() << QPointF(foot.x() - half, base) << QPointF(foot.x() + half, base)
+                                        << QPointF(foot.x(), base - height * 0.36));
+    }
+}
+
+QImage transparent(QSize size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QImage makeBalloon(QColor light, QColor dark, int width)
+{
+    QImage image = transparent({width, width * 3 / 2});
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(width / 100.0, width / 100.0);
+    QPainterPath hull(QPointF(50, 112));
+    hull.cubicTo(36, 96, 4, 84, 4, 50);
+    hull.cubicTo(4, 20, 24, 3, 50, 3);
+    hull.cubicTo(76, 3, 96, 20, 96, 50);
+    hull.cubicTo(96, 84, 64, 96, 50, 112);
+    painter.setClipPath(hull);
+    painter.fillRect(0, 0, 100, 150, light);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(dark);
+    painter.drawEllipse(QRectF(34, -10, 32, 140));
+    painter.setBrush(QColor(255, 255, 255, 60));
+    painter.drawEllipse(QRectF(14, 10, 26, 60));
+    painter.setClipping(false);
+    painter.setPen(QPen(QColor(theme::Night), 1.5));
+    painter.drawLine(42, 108, 44, 126);
+    painter.drawLine(58, 108, 56, 126);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xFF7A4B32));
+    painter.drawRoundedRect(QRectF(41, 125, 18, 14), 3, 3);
+    return image;
+}
+
+} // namespace
+
+const VideoScene &VideoScene::forScreen(QSize screen)
+{
+    if (screen.width() > screen.height()) {
+        static const VideoScene landscape(screen);
+        return landscape;
+    }
+    static const VideoScene portrait(screen);
+    return portrait;
+}
+
+VideoScene::VideoScene(QSize screen)
+    : m_screen(screen)
+    , m_sky(makeSky())
+{
+    m_layers[0] = makeClouds();
+    for (int i = 0; i < static_cast<int>(Hills.size()); ++i) {
+        m_layers.at(static_cast<std::size_t>(i) + 1) = makeHills(i);
+    }
+    m_balloons = {makeBalloon(QColor(theme::Coral), QColor(0xFFFFD1BF), 150),
+        makeBalloon(QColor(theme::Cyan), QColor(0xFFB5F0FF), 96)};
+}
+
+QImage VideoScene::makeSky() const
+{
+    QImage image(m_screen, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient sky(0, 0, 0, m_screen.height() * 0.66);
+    sky.setColorAt(0, QColor(0xFF2B3A78));
+    sky.setColorAt(0.45, QColor(0xFF7C6BB0));
+    sky.setColorAt(0.8, QColor(0xFFFFA98A));
+    sky.setColorAt(1, QColor(0xFFFFD9A8));
+    painter.fillRect(image.rect(), sky);
+    const QPointF sun(m_screen.width() * 0.66, m_screen.height() * 0.42);
+    QRadialGradient glow(sun, m_screen.height() * 0.3);
+    glow.setColorAt(0, QColor(255, 240, 200, 210));
+    glow.setColorAt(1, QColor(255, 220, 170, 0));
+    painter.fillRect(image.rect(), glow);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xFFFFF4D8));
+    painter.drawEllipse(sun, m_screen.height() * 0.055, m_screen.height() * 0.055);
+    return image;
+}
+
+VideoScene::Layer VideoScene::makeClouds() const
+{
+    const int height = m_screen.height() * 2 / 5;
+    Layer layer{transparent({LayerWidth, height}), m_screen.height() / 16, 1};
+    QPainter painter(&layer.image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    std::mt19937 random(7);
+    for (int cloud = 0; cloud < 7; ++cloud) {
+        const qreal scale = 0.6 + random() % 100 / 130.0;
+        const QPointF place(
+            150 + cloud * (LayerWidth - 300) / 6.5, 50 + random() % static_cast<unsigned>(height - 110));
+        painter.setBrush(QColor(255, 255, 255, 70 + static_cast<int>(random() % 70)));
+        QPainterPath path;
+        path.setFillRule(Qt::WindingFill);
+        path.addRoundedRect(
+            QRectF(place.x() - 100 * scale, place.y(), 200 * scale, 34 * scale), 17 * scale, 17 * scale);
+        path.addEllipse(place + QPointF(-38, 4) * scale, 40 * scale, 34 * scale);
+        path.addEllipse(place + QPointF(18, -6) * scale, 52 * scale, 44 * scale);
+        painter.drawPath(path.simplified());
+    }
+    return layer;
+}
+
+VideoScene::Layer VideoScene::makeHills(int index) const
+{
+    const HillStyle &style = Hills.at(static_cast<std::size_t>(index));
+    const bool nearest = index + 1 == static_cast<int>(Hills.size());
+    const qreal swing = style.height * m_screen.height();
+    const qreal treeHeight = style.trees > 0 ? m_screen.height() * (nearest ? 0.09 : 0.045) : 0;
+    const int base = static_cast<int>(swing + treeHeight) + 2; // of the ridge's middle, from the layer's top
+    const int top = static_cast<int>(style.top * m_screen.height()) - base;
+    // Down to where the next layer surely covers it.
+    const qreal bottom = nearest ? 1.0
+                                 : Hills.at(static_cast<std::size_t>(index) + 1).top
+            + Hills.at(static_cast<std::size_t>(index) + 1).height + 0.01;
+    Layer layer{
+        transparent({LayerWidth, static_cast<int>(bottom * m_screen.height()) - top}), top, style.speed};
+    QPainter painter(&layer.image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto ridgeAt = [&](int x) { return base - swing * ridge(style, x); };
+    std::mt19937 random(static_cast<unsigned>(index));
+    for (int tree = 0; tree < style.trees; ++tree) {
+        const int x = static_cast<int>(treeHeight) / 2
+            + (LayerWidth - static_cast<int>(treeHeight)) * tree / style.trees
+            + static_cast<int>(random() % 40);
+        const qreal height = treeHeight * (0.7 + random() % 30 / 100.0);
+        drawTree(painter, QPointF(x, ridgeAt(x) + 4), height, QColor(style.colour).darker(118));
+    }
+    QPolygonF hill;
+    for (int x = 0; x <= LayerWidth; x += 4) {
+        hill << QPointF(x, ridgeAt(x));
+    }
+    hill << QPointF(LayerWidth, layer.image.height()) << QPointF(0, layer.image.height());
+    QLinearGradient shade(0, base - swing, 0, layer.image.height());
+    shade.setColorAt(0, QColor(style.colour));
+    shade.setColorAt(1, QColor(style.footColour));
+    painter.setBrush(shade);
+    painter.drawPolygon(hill);
+    return layer;
+}
+
+void VideoScene::draw(QPainter &painter, int frame) const
+{
+    painter.drawImage(0, 0, m_sky);
+    for (std::size_t i = 0; i < m_layers.size(); ++i) {
+        const Layer &layer = m_layers.at(i);
+        const auto shift = static_cast<int>(static_cast<std::int64_t>(frame) * layer.speed % LayerWidth);
+        painter.drawImage(-shift, layer.top, layer.image);
+        if (shift + m_screen.width() > LayerWidth) {
+            painter.drawImage(LayerWidth - shift, layer.top, layer.image);
+        }
+        if (i == 2) {
+            drawBalloons(painter, frame);
+        }
+    }
+}
+
+void VideoScene::drawBalloons(QPainter &painter, int frame) const
+{
+    for (std::size_t i = 0; i < m_balloons.size(); ++i) {
+        const QImage &balloon = m_balloons.at(i);
+        const int way = m_screen.width() + 2 * balloon.width();
+        const int speed = i == 0 ? 3 : 2;
+        const auto x
+            = static_cast<int>(
+                  (static_cast<std::int64_t>(frame) * speed + way / 3 * static_cast<int>(i + 1)) % way)
+            - balloon.width();
+        const qreal swing = std::sin(Turn * (frame % 250) / 250.0 + static_cast<qreal>(i) * 2);
+        const int y
+            = static_cast<int>(m_screen.height() * (i == 0 ? 0.27 : 0.16) + swing * m_screen.height() * 0.04);
+        painter.drawImage(x, y, balloon);
+    }
+}
+
+} // namespace orvane::cloud

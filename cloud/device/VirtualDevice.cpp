@@ -1,0 +1,315 @@
+#include "device/VirtualDevice.h"
+
+#include "device/DeviceLog.h"
+#include "device/FingerTracker.h"
+#include "device/InputLog.h"
+#include "device/Shell.h"
+#include "device/Surface.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <linux/input-event-codes.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace orvane::cloud {
+
+namespace {
+
+constexpr int CameraInput = 212; // sensor request that means the camera
+constexpr std::size_t MaxHeldKeys = 64; // of one session; more are not remembered
+constexpr QChar Delete = QChar(0x7F);
+
+enum KeyAction {
+    KeyDown = 1,
+    KeyUp = 2,
+    KeyClick = 3,
+};
+
+// What typing `text` means to an app: line breaks as '\n', only the control characters that edit.
+QString typed(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar character = text[i];
+        const bool pairEnds = character == QLatin1Char('\n') && i > 0 && text[i - 1] == QLatin1Char('\r');
+        if (pairEnds) {
+            continue;
+        }
+        if (character == QLatin1Char('\r') || character == QChar(QChar::LineSeparator)
+            || character == QChar(QChar::ParagraphSeparator)) {
+            result += QLatin1Char('\n');
+        } else if (character == QLatin1Char('\n') || character == QLatin1Char('\t')
+            || character == QLatin1Char('\b') || character == Delete
+            || character.category() != QChar::Other_Control) {
+            result += character;
+        }
+    }
+    return result;
+}
+
+// From the header alone; empty when it is no JPEG.
+QSize jpegSize(const std::string &bytes)
+{
+    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer, "jpeg");
+    const QSize size = reader.size();
+    return size.isValid() ? size : QSize(0, 0);
+}
+
+// Between 60 and 99, always the same for a device.
+int batteryPercent(const std::string &padCode)
+{
+    unsigned sum = 0;
+    for (const char character : padCode) {
+        sum = sum * 31 + static_cast<unsigned char>(character);
+    }
+    return static_cast<int>(60 + sum % 40);
+}
+
+QJsonObject event(const char *type)
+{
+    return {{QStringLiteral("type"), QString::fromLatin1(type)}};
+}
+
+} // namespace
+
+struct VirtualDevice::Impl
+{
+    Impl(VirtualDevice &owner, std::string code, const std::string &name, WallClock wallClock)
+        : padCode(std::move(code))
+        , surface(screenSize())
+        , fingers(screenSize())
+        , shell(surface,
+              {QString::fromStdString(name), batteryPercent(padCode), std::move(wallClock),
+                  [&owner](const QString &text) {
+                      if (owner.onClipboard) {
+                          owner.onClipboard(text.toStdString());
+                      }
+                  }})
+    { }
+
+    void paint()
+    {
+        surface.paint([this](QPainter &painter, const QRect &clip) { shell.draw(painter, clip); });
+    }
+
+    const std::string padCode;
+    Surface surface;
+    FingerTracker fingers;
+    Shell shell;
+    InputLog log;
+    std::map<std::string, std::set<int>> heldKeys; // by session; only sessions that hold keys
+    int rotation = 0;
+    bool cameraWanted = false;
+};
+
+VirtualDevice::VirtualDevice(std::string padCode, std::string name, WallClock wallClock)
+    : m_impl(std::make_unique<Impl>(*this, std::move(padCode), name, std::move(wallClock)))
+{ }
+
+VirtualDevice::~VirtualDevice() = default;
+
+// --- Screen ---
+
+int VirtualDevice::rotation() const
+{
+    return m_impl->rotation;
+}
+
+void VirtualDevice::setRotation(int rotation)
+{
+    if (rotation < 0 || rotation > 3) {
+        qCWarning(deviceLog, "%s: there is no rotation %d", m_impl->padCode.c_str(), rotation);
+        return;
+    }
+    if (rotation == m_impl->rotation) {
+        return;
+    }
+    m_impl->rotation = rotation;
+    m_impl->surface.setLandscape(rotation % 2 != 0);
+    m_impl->shell.resized();
+    if (onRotation) {
+        onRotation(rotation);
+    }
+}
+
+const QImage &VirtualDevice::frame()
+{
+    m_impl->paint();
+    return m_impl->surface.frame();
+}
+
+QRect VirtualDevice::takeDirty()
+{
+    m_impl->paint();
+    return m_impl->surface.takeDirty();
+}
+
+std::uint64_t VirtualDevice::pictureVersion() const
+{
+    return m_impl->surface.version();
+}
+
+// --- Input ---
+
+void VirtualDevice::touch(
+    const std::string &sessionKey, int action, const std::vector<TouchPoint> &points, TimePoint time)
+{
+    Impl &d = *m_impl;
+    QJsonArray list;
+    const std::size_t count = std::min(points.size(), FingerTracker::MaxFingers);
+    for (std::size_t i = 0; i < count; ++i) {
+        list.append(QJsonArray{points[i].x, points[i].y});
+    }
+    QJsonObject record = event("touch");
+    record.insert(QStringLiteral("action"), action);
+    record.insert(QStringLiteral("points"), list);
+    d.log.add(time, sessionKey, record);
+
+    d.shell.advance(time);
+    for (FingerEvent change : d.fingers.frame(sessionKey, action, points)) {
+        change.position = d.surface.toContent(change.position);
+        d.shell.touch(change, time);
+    }
+}
+
+void VirtualDevice::key(const std::string &sessionKey, int action, int code, bool shift, TimePoint time)
+{
+    Impl &d = *m_impl;
+    QJsonObject record = event("key");
+    record.insert(QStringLiteral("action"), action);
+    record.insert(QStringLiteral("code"), code);
+    record.insert(QStringLiteral("shift"), shift);
+    d.log.add(time, sessionKey, record);
+
+    d.shell.advance(time);
+    if (code == KEY_RESERVED) {
+        return; // only says that the user is there
+    }
+    if (action < KeyDown || action > KeyClick || code < 0 || code > KEY_MAX) {
+        qCWarning(deviceLog, "%s: key action %d of code %d is unknown", d.padCode.c_str(), action, code);
+        return;
+    }
+    std::set<int> &held = d.heldKeys[sessionKey];
+    if (action != KeyUp) {
+        const bool shiftHeld = held.count(KEY_LEFTSHIFT) + held.count(KEY_RIGHTSHIFT) > 0;
+        const bool controlHeld = held.count(KEY_LEFTCTRL) + held.count(KEY_RIGHTCTRL) > 0;
+        d.shell.keyPressed({code, shift || shiftHeld, controlHeld}, time);
+    }
+    if (action == KeyDown && held.size() < MaxHeldKeys) {
+        held.insert(code);
+    } else {
+        held.erase(code);
+    }
+    if (held.empty()) {
+        d.heldKeys.erase(sessionKey);
+    }
+}
+
+void VirtualDevice::text(const std::string &sessionKey, const std::string &utf8, TimePoint time)
+{
+    const QString text = QString::fromStdString(utf8);
+    QJsonObject record = event("text");
+    record.insert(QStringLiteral("text"), text);
+    m_impl->log.add(time, sessionKey, record);
+    m_impl->shell.advance(time);
+    m_impl->shell.textTyped(typed(text));
+}
+
+void VirtualDevice::picture(const std::string &sessionKey, const std::string &jpeg, TimePoint time)
+{
+    const QSize size = jpegSize(jpeg);
+    if (size.isEmpty()) {
+        qCWarning(
+            deviceLog, "%s: a camera picture of %zu bytes is no JPEG", m_impl->padCode.c_str(), jpeg.size());
+    }
+    QJsonObject record = event("picture");
+    record.insert(QStringLiteral("bytes"), static_cast<qint64>(jpeg.size()));
+    record.insert(QStringLiteral("width"), size.width());
+    record.insert(QStringLiteral("height"), size.height());
+    m_impl->log.add(time, sessionKey, record);
+    m_impl->shell.advance(time);
+}
+
+void VirtualDevice::audio(const std::string &sessionKey, int format, const std::string &data, TimePoint time)
+{
+    QJsonObject record = event("audio");
+    record.insert(QStringLiteral("format"), format);
+    record.insert(QStringLiteral("bytes"), static_cast<qint64>(data.size()));
+    m_impl->log.add(time, sessionKey, record);
+    m_impl->shell.advance(time);
+}
+
+void VirtualDevice::sessionGone(const std::string &sessionKey, TimePoint time)
+{
+    Impl &d = *m_impl;
+    d.shell.advance(time);
+    for (const FingerEvent &change : d.fingers.lift(sessionKey)) {
+        d.shell.cancelTouch(change.id);
+    }
+    d.heldKeys.erase(sessionKey);
+}
+
+std::vector<InputRecord> VirtualDevice::inputsSince(std::uint64_t sequence) const
+{
+    return m_impl->log.since(sequence);
+}
+
+// --- Time and state ---
+
+std::optional<VirtualDevice::TimePoint> VirtualDevice::nextTick() const
+{
+    return m_impl->shell.nextTick();
+}
+
+void VirtualDevice::tick(TimePoint now)
+{
+    m_impl->shell.advance(now);
+}
+
+void VirtualDevice::reboot(TimePoint time)
+{
+    Impl &d = *m_impl;
+    d.shell.reboot(time);
+    d.fingers.clear();
+    d.heldKeys.clear();
+    if (d.cameraWanted) {
+        requestCamera(false);
+    }
+}
+
+bool VirtualDevice::isBooting() const
+{
+    return m_impl->shell.isBooting();
+}
+
+bool VirtualDevice::openApp(const std::string &name)
+{
+    const auto kind = appByName(QString::fromStdString(name));
+    return kind && m_impl->shell.open(*kind);
+}
+
+std::string VirtualDevice::appStateJson() const
+{
+    QJsonObject state = m_impl->shell.describe();
+    state.insert(QStringLiteral("rotation"), m_impl->rotation);
+    return QJsonDocument(state).toJson(QJsonDocument::Compact).toStdString();
+}
+
+void VirtualDevice::requestCamera(bool on)
+{
+    m_impl->cameraWanted = on;
+    if (onSensorRequest) {
+        onSensorRequest(CameraInput, on ? 1 : 0, 0, 0);
+    }
+}
+
+} // namespace orvane::cloud
