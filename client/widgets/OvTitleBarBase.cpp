@@ -20,6 +20,7 @@ constexpr int barHeight = 40;
 constexpr int buttonExtent = 40;
 constexpr int iconExtent = 16; // of a caption button
 constexpr int leftMargin = 10;
+constexpr int titleIndent = 8; // from an icon
 constexpr int cornerRadius = 8;
 constexpr QRgb background = qRgb(68, 68, 68);
 } // namespace Look
@@ -143,6 +144,7 @@ void OvTitleBarBase::setIcon(const QString &imagePath, const QSize &size)
         qWarning().noquote() << "the title bar icon could not be read:" << imagePath;
         m_iconLabel->clear();
         m_iconLabel->setFixedSize(0, 0);
+        m_titleLabel->setIndent(0);
         return;
     }
     image.setDevicePixelRatio(1.0);
@@ -150,6 +152,7 @@ void OvTitleBarBase::setIcon(const QString &imagePath, const QSize &size)
     image.setDevicePixelRatio(devicePixelRatioF());
     m_iconLabel->setFixedSize(size);
     m_iconLabel->setPixmap(image);
+    m_titleLabel->setIndent(Look::titleIndent);
 }
 
 void OvTitleBarBase::setDraggable(bool draggable)

@@ -117,8 +117,8 @@ void OvToast::setText(const QString &text)
     m_text = text;
     const QFontMetrics metrics(m_label->font());
     const QString shown = breakable(text, metrics);
-    const QRect textRect = metrics.boundingRect(
-        QRect(0, 0, Look::maximumTextWidth, QWIDGETSIZE_MAX), Qt::TextWordWrap | Qt::AlignCenter, shown);
+    const QRect textRect
+        = metrics.boundingRect(QRect(0, 0, Look::maximumTextWidth, QWIDGETSIZE_MAX), Qt::TextWordWrap, shown);
     m_label->setText(shown);
     m_label->setGeometry(
         Look::horizontalPadding / 2, Look::verticalPadding / 2, textRect.width(), textRect.height());

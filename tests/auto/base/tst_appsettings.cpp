@@ -66,7 +66,7 @@ void TestAppSettings::seesChangesMadeByHand()
     const QString path = dir.filePath(QStringLiteral("config.ini"));
     write(path, "[config]\nWebDebug=false\n");
     QVERIFY(!AppSettings(path).value(QStringLiteral("WebDebug")).toBool());
-    write(path, "[config]\nWebDebug=true \n");
+    write(path, "[config]\nWebDebug=true\n");
     QVERIFY(AppSettings(path).value(QStringLiteral("WebDebug")).toBool());
 }
 
