@@ -1,0 +1,19 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+
+namespace orvane::cloud {
+
+// The service's clock: steady, never set back. Logic that depends on time takes a time point as argument, so
+// that tests decide what time it is.
+using Clock = std::chrono::steady_clock;
+using TimePoint = Clock::time_point;
+
+// The clock's value as it travels in messages.
+inline std::int64_t toMicroseconds(TimePoint time)
+{
+    return std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch()).count();
+}
+
+} // namespace orvane::cloud

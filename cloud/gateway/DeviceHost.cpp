@@ -1,0 +1,376 @@
+#include "gateway/DeviceHost.h"
+
+#include "gateway/GatewayLog.h"
+
+#include <boost/asio/post.hpp>
+
+#include <algorithm>
+
+namespace orvane::cloud {
+
+namespace {
+
+// More viewers of one device than this are told to come back later.
+constexpr std::size_t MaxViewers = 32;
+
+// Where a coordinate of the client's reference size lies on the screen: pixel centres are mapped, and what
+// lies outside goes to the edge. `reference` 0 = the screen's own size.
+int toScreen(int value, int reference, int screen)
+{
+    const std::int64_t size = reference > 0 ? reference : screen;
+    const std::int64_t clamped = std::clamp<std::int64_t>(value, 0, size - 1);
+    return static_cast<int>((2 * clamped + 1) * screen / (2 * size));
+}
+
+template <typename... Handlers>
+struct Overloaded : Handlers...
+{
+    using Handlers::operator()...;
+};
+template <typename... Handlers>
+Overloaded(Handlers...) -> Overloaded<Handlers...>;
+
+} // namespace
+
+DeviceHost::DeviceHost(std::string padCode, const std::string &name, const Executor &executor)
+    : m_padCode(std::move(padCode))
+    , m_strand(boost::asio::make_strand(executor))
+    , m_device(m_padCode, name)
+    , m_timer(m_strand)
+{
+    // The device calls these while it is being used, that is with the mutex held.
+    m_device.onSensorRequest = [this](int inputType, int state, int width, int height) {
+        m_events.push_back(SensorEvent{inputType, state, width, height});
+    };
+    m_device.onClipboard = [this](const std::string &text) { m_events.push_back(ClipboardEvent{text}); };
+    m_device.onRotation = [this](int rotation) { m_events.push_back(RotationEvent{rotation}); };
+}
+
+// --- Any thread, in order ---
+
+void DeviceHost::join(Joining joining)
+{
+    boost::asio::post(m_strand, [self = shared_from_this(), joining = std::move(joining)]() mutable {
+        self->joinNow(std::move(joining));
+    });
+}
+
+void DeviceHost::leave(ConnectionId connection)
+{
+    boost::asio::post(m_strand, [self = shared_from_this(), connection] { self->leaveNow(connection); });
+}
+
+void DeviceHost::receive(ConnectionId connection, ClientMessage message, std::function<void()> done)
+{
+    boost::asio::post(m_strand,
+        [self = shared_from_this(), connection, message = std::move(message),
+            done = std::move(done)]() mutable {
+            self->receiveNow(connection, message);
+            done();
+        });
+}
+
+void DeviceHost::learnPathDelay(ConnectionId connection, std::chrono::microseconds delay)
+{
+    boost::asio::post(m_strand, [self = shared_from_this(), connection, delay] {
+        if (Viewer *viewer = self->find(connection)) {
+            viewer->learnPathDelay(delay, Clock::now());
+        }
+    });
+}
+
+// --- Any thread, at once ---
+
+DeviceState DeviceHost::state()
+{
+    const std::lock_guard lock(m_deviceMutex);
+    catchUp(Clock::now());
+    return m_device.isBooting() ? DeviceState::Booting : DeviceState::Online;
+}
+
+void DeviceHost::reboot()
+{
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        m_device.reboot(Clock::now());
+    }
+    postUpdate();
+}
+
+bool DeviceHost::openApp(const std::string &app)
+{
+    bool opened = false;
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        catchUp(Clock::now());
+        opened = m_device.openApp(app);
+    }
+    postUpdate();
+    return opened;
+}
+
+bool DeviceHost::rotate(int rotation)
+{
+    if (rotation < 0 || rotation > 3) {
+        return false;
+    }
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        m_device.setRotation(rotation);
+    }
+    postUpdate();
+    return true;
+}
+
+void DeviceHost::requestCamera(bool on)
+{
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        m_device.requestCamera(on);
+    }
+    postUpdate();
+}
+
+std::string DeviceHost::appStateJson()
+{
+    const std::lock_guard lock(m_deviceMutex);
+    catchUp(Clock::now());
+    return m_device.appStateJson();
+}
+
+std::vector<InputRecord> DeviceHost::inputsSince(std::uint64_t sequence)
+{
+    const std::lock_guard lock(m_deviceMutex);
+    return m_device.inputsSince(sequence);
+}
+
+QImage DeviceHost::screen()
+{
+    const std::lock_guard lock(m_deviceMutex);
+    catchUp(Clock::now());
+    return m_device.frame().copy(); // the device goes on painting into its own
+}
+
+std::uint64_t DeviceHost::screenVersion()
+{
+    const std::lock_guard lock(m_deviceMutex);
+    catchUp(Clock::now());
+    return m_device.pictureVersion() + 1;
+}
+
+void DeviceHost::catchUp(TimePoint now)
+{
+    const auto due = m_device.nextTick();
+    if (due && *due <= now) {
+        m_device.tick(now);
+    }
+}
+
+void DeviceHost::postUpdate()
+{
+    boost::asio::post(m_strand, [self = shared_from_this()] { self->update(true); });
+}
+
+// --- Strand ---
+
+void DeviceHost::joinNow(Joining joining)
+{
+    for (const auto &entry : m_entries) {
+        if (entry->viewer.sessionId() == joining.sessionId) {
+            leaveNow(entry->connection);
+            break;
+        }
+    }
+    if (m_entries.size() >= MaxViewers) {
+        qCInfo(gatewayLog, "%s: busy, %zu sessions view it", m_padCode.c_str(), m_entries.size());
+        joining.link->refuse(LoginCode::Busy, "too many sessions view the device");
+        return;
+    }
+    int rotation = 0;
+    QSize size;
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        rotation = m_device.rotation();
+        size = m_device.screenSize();
+    }
+    joining.link->accept(server::loginAccepted(size, rotation));
+    m_entries.push_back(std::make_unique<Entry>(Entry{joining.connection,
+        Viewer(joining.sessionId, std::move(joining.link), std::move(joining.counters))}));
+    update(false);
+}
+
+void DeviceHost::leaveNow(ConnectionId connection)
+{
+    const auto entry = std::find_if(
+        m_entries.begin(), m_entries.end(), [&](const auto &e) { return e->connection == connection; });
+    if (entry == m_entries.end()) {
+        return; // replaced before
+    }
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        m_device.sessionGone((*entry)->viewer.sessionId(), Clock::now());
+    }
+    m_entries.erase(entry);
+    update(true);
+}
+
+Viewer *DeviceHost::find(ConnectionId connection)
+{
+    for (const auto &entry : m_entries) {
+        if (entry->connection == connection) {
+            return &entry->viewer;
+        }
+    }
+    return nullptr;
+}
+
+bool DeviceHost::isWatched() const
+{
+    return std::any_of(
+        m_entries.begin(), m_entries.end(), [](const auto &entry) { return entry->viewer.isWatching(); });
+}
+
+void DeviceHost::receiveNow(ConnectionId connection, ClientMessage &message)
+{
+    Viewer *viewer = find(connection);
+    if (!viewer) {
+        return; // replaced or on its way out: its input no longer counts
+    }
+    const TimePoint now = Clock::now();
+    const std::string &session = viewer->sessionId();
+    const auto device = [this](auto action) {
+        const std::lock_guard lock(m_deviceMutex);
+        action(m_device, Clock::now()); // times must not go back: read with the mutex held
+        return true;
+    };
+    const bool afterInput = std::visit(
+        Overloaded{
+            [&](const client::Touch &touch) { return input(session, touch), true; },
+            [&](const client::Key &key) {
+                return device(
+                    [&](auto &d, TimePoint time) { d.key(session, key.action, key.code, key.shift, time); });
+            },
+            [&](const client::Text &text) {
+                return device([&](auto &d, TimePoint time) { d.text(session, text.text, time); });
+            },
+            [&](const client::Picture &picture) {
+                return device([&](auto &d, TimePoint time) { d.picture(session, picture.jpeg, time); });
+            },
+            [&](const client::Audio &audio) {
+                return device(
+                    [&](auto &d, TimePoint time) { d.audio(session, audio.format, audio.data, time); });
+            },
+            [&](const client::VideoLevels &levels) { return viewer->setLevels(levels), false; },
+            [&](const client::ChooseRow &choice) { return viewer->choose(choice), false; },
+            [&](const client::ChooseCustom &choice) { return viewer->choose(choice), false; },
+            [&](const client::ScreenCast &cast) { return viewer->setCastMode(cast.mode), false; },
+            [&](const client::KeyframeRequest &) { return viewer->requestKeyFrame(now), false; },
+            [&](const client::FrameAck &ack) { return viewer->acknowledge(ack.frameId, now), false; },
+            [](const auto &) { return false; }, // handled by the connection
+        },
+        message);
+    update(afterInput);
+}
+
+void DeviceHost::input(const std::string &sessionId, const client::Touch &touch)
+{
+    const std::lock_guard lock(m_deviceMutex);
+    const QSize size = m_device.screenSize();
+    std::vector<TouchPoint> points;
+    points.reserve(touch.points.size());
+    for (const client::Touch::Point &point : touch.points) {
+        points.push_back({toScreen(point.x, touch.referenceWidth, size.width()),
+            toScreen(point.y, touch.referenceHeight, size.height()), point.pressure});
+    }
+    m_device.touch(sessionId, touch.action, points, Clock::now());
+}
+
+void DeviceHost::update(bool afterInput)
+{
+    const bool watched = isWatched();
+    TimePoint now;
+    std::vector<DeviceEvent> events;
+    QRect dirty;
+    std::optional<TimePoint> tick;
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        now = Clock::now();
+        if (watched) {
+            catchUp(now);
+            dirty = m_device.takeDirty();
+            tick = m_device.nextTick();
+        }
+        events.swap(m_events);
+    }
+    for (const DeviceEvent &event : events) {
+        deliver(event);
+    }
+    if (!watched) {
+        m_picture.reset();
+    }
+    m_stale = m_stale.united(dirty);
+    for (const auto &entry : m_entries) {
+        if (!dirty.isEmpty()) {
+            entry->viewer.screenChanged(afterInput);
+        }
+        entry->viewer.pump(now, [this]() -> const YuvPicture & { return picture(); });
+    }
+    schedule(now, tick);
+}
+
+void DeviceHost::deliver(const DeviceEvent &event)
+{
+    const std::string message
+        = std::visit(Overloaded{
+                         [](const SensorEvent &e) {
+                             return server::sensorRequest(e.inputType, e.state, e.width, e.height);
+                         },
+                         [](const ClipboardEvent &e) { return server::clipboard(e.text); },
+                         [](const RotationEvent &e) { return server::screenRotation(e.rotation); },
+                     },
+            event);
+    for (const auto &entry : m_entries) {
+        entry->viewer.link().sendControl(message);
+    }
+}
+
+const YuvPicture &DeviceHost::picture()
+{
+    const std::lock_guard lock(m_deviceMutex);
+    const QImage &frame = m_device.frame();
+    if (!m_picture) {
+        m_picture.emplace(frame.width(), frame.height());
+        m_stale = frame.rect();
+    }
+    m_picture->convert(frame, m_stale);
+    m_stale = QRect();
+    return *m_picture;
+}
+
+void DeviceHost::schedule(TimePoint now, std::optional<TimePoint> deviceTick)
+{
+    std::optional<TimePoint> next = deviceTick;
+    for (const auto &entry : m_entries) {
+        const auto time = entry->viewer.nextPump(now);
+        if (time && (!next || *time < *next)) {
+            next = time;
+        }
+    }
+    if (next == m_timerAt) {
+        return; // already set, or not needed
+    }
+    m_timerAt = next;
+    if (!next) {
+        m_timer.cancel();
+        return;
+    }
+    m_timer.expires_at(*next);
+    m_timer.async_wait([self = weak_from_this()](const boost::system::error_code &error) {
+        if (const auto host = self.lock(); host && !error) {
+            host->m_timerAt.reset();
+            host->update(false);
+        }
+    });
+}
+
+} // namespace orvane::cloud

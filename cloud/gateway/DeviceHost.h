@@ -1,0 +1,118 @@
+#pragma once
+
+#include "core/DeviceFleet.h"
+#include "device/VirtualDevice.h"
+#include "gateway/Viewer.h"
+
+#include <boost/asio/steady_timer.hpp>
+#include <boost/asio/strand.hpp>
+#include <boost/asio/thread_pool.hpp>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <variant>
+#include <vector>
+
+namespace orvane::cloud {
+
+// One virtual device with the sessions that view and work it. Everything that takes time (drawing,
+// converting, encoding) runs on the host's strand of the worker pool; a device that nobody watches has no
+// timer and does nothing.
+//
+// Owned by GatewayFleet and by its own handlers. Viewers, picture and timer belong to the strand. The device
+// itself is guarded by m_deviceMutex, so that the HTTP API can read and change it from its own threads.
+class DeviceHost : public std::enable_shared_from_this<DeviceHost>
+{
+public:
+    using Executor = boost::asio::thread_pool::executor_type;
+    // One connection; never used twice.
+    using ConnectionId = std::uint64_t;
+
+    // Who wants to join.
+    struct Joining
+    {
+        ConnectionId connection = 0;
+        std::string sessionId;
+        std::shared_ptr<ClientLink> link;
+        std::shared_ptr<SessionCounters> counters;
+    };
+
+    DeviceHost(std::string padCode, const std::string &name, const Executor &executor);
+
+    const std::string &padCode() const { return m_padCode; }
+
+    // Any thread; carried out in the order of the calls.
+
+    // Signs a session in and tells it so, or that the device is busy. A viewer with the same session id
+    // leaves.
+    void join(Joining joining);
+    // The connection is gone; its fingers and keys are lifted.
+    void leave(ConnectionId connection);
+    // A message of a joined connection; `done` is called on the strand when it has taken effect.
+    void receive(ConnectionId connection, ClientMessage message, std::function<void()> done);
+    void learnPathDelay(ConnectionId connection, std::chrono::microseconds delay);
+
+    // Any thread; these take effect at once.
+
+    DeviceState state();
+    void reboot();
+    bool openApp(const std::string &app);
+    bool rotate(int rotation); // 0 to 3
+    void requestCamera(bool on);
+    std::string appStateJson();
+    std::vector<InputRecord> inputsSince(std::uint64_t sequence);
+    QImage screen();
+    std::uint64_t screenVersion(); // counts up from 1 whenever the picture changes
+
+private:
+    struct SensorEvent
+    {
+        int inputType, state, width, height;
+    };
+    struct ClipboardEvent
+    {
+        std::string text;
+    };
+    struct RotationEvent
+    {
+        int rotation;
+    };
+    using DeviceEvent = std::variant<SensorEvent, ClipboardEvent, RotationEvent>;
+    struct Entry
+    {
+        ConnectionId connection;
+        Viewer viewer;
+    };
+
+    // Any thread, with the mutex held.
+    void catchUp(TimePoint now);
+
+    // Strand only.
+    void joinNow(Joining joining);
+    void leaveNow(ConnectionId connection);
+    void receiveNow(ConnectionId connection, ClientMessage &message);
+    void input(const std::string &sessionId, const client::Touch &touch);
+    Viewer *find(ConnectionId connection);
+    bool isWatched() const;
+    void update(bool afterInput);
+    void deliver(const DeviceEvent &event);
+    const YuvPicture &picture();
+    void schedule(TimePoint now, std::optional<TimePoint> deviceTick);
+    void postUpdate();
+
+    const std::string m_padCode;
+    boost::asio::strand<Executor> m_strand;
+
+    std::mutex m_deviceMutex;
+    VirtualDevice m_device; // m_deviceMutex
+    std::vector<DeviceEvent> m_events; // m_deviceMutex; what the device said and nobody was told yet
+
+    std::vector<std::unique_ptr<Entry>> m_entries; // strand
+    std::optional<YuvPicture> m_picture; // strand; none while nobody watches
+    QRect m_stale; // strand; part of m_picture that the screen has changed since
+    boost::asio::steady_timer m_timer; // strand
+    std::optional<TimePoint> m_timerAt; // strand; none = not running
+};
+
+} // namespace orvane::cloud
