@@ -5,7 +5,10 @@
 #include "session/NetworkThread.h"
 #include "video/DecodePool.h"
 
+#include <google/protobuf/stubs/logging.h>
+
 #include <mutex>
+#include <string>
 
 namespace {
 
@@ -17,6 +20,13 @@ std::mutex &controlMutex()
 }
 
 bool running = false; // controlMutex()
+
+// The wire library's own remarks, such as on text that is not UTF-8, would go to the program's console.
+void logOfWireLibrary(
+    google::protobuf::LogLevel /*level*/, const char * /*file*/, int /*line*/, const std::string &text)
+{
+    swplay::log(swplay::LogLevel::Debug, "Wire: " + text);
+}
 
 } // namespace
 
@@ -34,6 +44,7 @@ int SWRuntime::init(int logLevel, const char *logDir)
     if (running)
         return 0;
     swplay::LogFile::instance().open(logLevel, logDir ? logDir : "");
+    google::protobuf::SetLogHandler(logOfWireLibrary);
     swplay::startDecodePool();
     swplay::NetworkThread::instance().start();
     running = true;
