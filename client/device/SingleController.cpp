@@ -252,8 +252,11 @@ void SingleController::onPlayInfo(const char *info)
     m_delayLabel->setText(QStringLiteral("%1ms").arg(delayMs));
 }
 
+// A close by the window manager means the same to the owner as the close button.
 void SingleController::closeEvent(QCloseEvent *event)
 {
+    if (event->spontaneous())
+        emit sigCloseBtnClicked();
     endStream();
     OvWindowBase::closeEvent(event);
 }

@@ -47,10 +47,21 @@ OvWindowBase::OvWindowBase(QWidget *parent)
 
 OvWindowBase::~OvWindowBase() = default;
 
+// At a fractional scale the window system reports sizes that are off by a rounding. Resizing for that would undo a
+// move that is still under way, since a resize names the position as well.
+bool OvWindowBase::isRoundingOf(const QSize &target) const
+{
+    const QSize off = size() - target;
+    const bool fractional = !qFuzzyCompare(devicePixelRatioF(), qRound(devicePixelRatioF()));
+    return fractional && qAbs(off.width()) <= 1 && qAbs(off.height()) <= 1;
+}
+
 void OvWindowBase::updateWindowSize()
 {
     const int margins = 2 * m_shadowMargin;
-    resize((contentSize() + QSize(margins, margins)).expandedTo(minimumSize()));
+    const QSize target = (contentSize() + QSize(margins, margins)).expandedTo(minimumSize());
+    if (!isRoundingOf(target))
+        resize(target);
     const auto descendants = findChildren<QWidget *>();
     for (QWidget *descendant : descendants)
         descendant->update();

@@ -83,6 +83,7 @@ protected:
 
 private:
     QRect screenGeometryAt(const QPoint &pos) const;
+    bool isRoundingOf(const QSize &target) const;
     void updateEdge(const QPoint &pointer);
     void resizeTo(const QPoint &globalPos);
 
