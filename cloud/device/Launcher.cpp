@@ -6,6 +6,7 @@
 
 #include <QFontMetricsF>
 #include <QJsonArray>
+#include <QJsonObject>
 #include <QLocale>
 #include <QPainter>
 
@@ -35,7 +36,8 @@ void Launcher::setTime(const QDateTime &time)
 
 QRect Launcher::clockArea() const
 {
-    return {theme::Margin + 16, theme::StatusBarHeight + 60, 620, 300};
+    const int gap = screen().width() > screen().height() ? 16 : 60;
+    return {theme::Margin + 16, theme::StatusBarHeight + gap, 620, 280};
 }
 
 // Rows of equal length as far as possible, centred: as many as fit beside each other, all in one row in
@@ -115,10 +117,14 @@ void Launcher::drawClock(QPainter &painter) const
 void Launcher::describe(QJsonObject &state) const
 {
     QJsonArray apps;
+    QJsonObject icons; // centres, in pixels of the screen as it is held
     for (const Entry &entry : m_entries) {
+        const QPoint centre = entry.icon.center();
         apps.append(appName(entry.kind));
+        icons.insert(appName(entry.kind), QJsonArray{centre.x(), centre.y()});
     }
     state.insert(QStringLiteral("apps"), apps);
+    state.insert(QStringLiteral("icons"), icons);
 }
 
 void Launcher::touchDown(const Pointer &pointer)
