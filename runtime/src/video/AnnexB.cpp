@@ -7,7 +7,7 @@ namespace {
 constexpr std::string_view StartCode("\0\0\1", 3);
 
 // More than parameter sets and messages before a slice ever take; bounds the work on a hostile unit.
-constexpr std::size_t MaxHeaderBytes = 64 * 1024;
+constexpr std::size_t MaxHeaderBytes = std::size_t(64) * 1024;
 
 constexpr int NalTypeMask = 0x1f;
 constexpr int FirstSliceType = 1;

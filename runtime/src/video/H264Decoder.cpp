@@ -81,7 +81,7 @@ bool H264Decoder::fillPacket(AccessUnit &unit)
     AVBufferRef *buffer = av_buffer_create(bytes, data->size(), &deleteUnitData, data.get(), 0);
     if (!buffer)
         return false;
-    data.release(); // now the buffer's
+    static_cast<void>(data.release()); // now the buffer's
     m_packet->buf = buffer;
     m_packet->data = bytes;
     m_packet->size = static_cast<int>(size);
@@ -147,8 +147,11 @@ const VideoFrame *H264Decoder::picture() const
 
 void H264Decoder::restart()
 {
-    // Flushing is not enough: libavcodec keeps the longest output delay that a (damaged) stream ever claimed.
-    m_context.reset();
+    // Flushing keeps the longest output delay that a (perhaps damaged) stream ever claimed.
+    if (reorders())
+        m_context.reset();
+    else if (m_context)
+        avcodec_flush_buffers(m_context.get());
 }
 
 bool H264Decoder::reorders() const

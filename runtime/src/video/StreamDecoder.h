@@ -33,7 +33,7 @@ public:
     // What waits at most: about a third of a second of video, and the memory that it takes. A single unit
     // larger than the memory limit is treated as damaged.
     static constexpr std::size_t MaxWaitingUnits = 8;
-    static constexpr std::size_t MaxWaitingBytes = 16 * 1024 * 1024;
+    static constexpr std::size_t MaxWaitingBytes = std::size_t(16) * 1024 * 1024;
     // A key frame that was asked for and did not help is asked for again after this time.
     static constexpr std::chrono::milliseconds KeyFrameRetryInterval{1000};
 

@@ -30,7 +30,7 @@ TEST(AnnexB, NeedsASlice)
 
 TEST(AnnexB, LooksAtABoundedHead)
 {
-    std::string unit(1024 * 1024, '\xff');
+    std::string unit(1000000, '\xff');
     unit.append("\0\0\1\x65\x88", 5);
     EXPECT_FALSE(startsWithIdr(unit));
 }

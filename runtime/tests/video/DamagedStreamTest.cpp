@@ -11,13 +11,24 @@ using swplay::AccessUnit;
 using swplay::DecodePool;
 using swplay::StreamDecoder;
 
+namespace {
+
+// The thread sanitizer has nothing to find in a test of one thread, and makes it slow.
+#if defined(__SANITIZE_THREAD__)
+constexpr int Units = 10000;
+#else
+constexpr int Units = 200000;
+#endif
+
+} // namespace
+
 // Many damaged units, always the same ones: nothing crashes, and a good key frame always gets a picture.
-TEST(DamagedStream, SurvivesTwoHundredThousandDamagedUnits)
+TEST(DamagedStream, GoodKeyFramesGetTheirPictureAmongDamagedUnits)
 {
-    constexpr int Units = 200000;
     constexpr int GoodEvery = 500;
     TestEncoder encoder(32, 32);
     std::vector<AccessUnit> good;
+    good.reserve(60);
     for (int i = 0; i < 60; ++i)
         good.push_back(encoder.next(i % 6 == 0));
 

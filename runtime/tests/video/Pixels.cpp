@@ -5,12 +5,21 @@
 #include <cmath>
 #include <cstdlib>
 
+namespace {
+
+const std::uint8_t *pixelAt(const FrameBuffer &buffer, int x, int y)
+{
+    return buffer.data + std::ptrdiff_t(y) * buffer.stride + std::ptrdiff_t(x) * 4;
+}
+
+} // namespace
+
 double gradientError(const FrameBuffer &buffer, int phase)
 {
     double sum = 0;
     for (int y = 0; y < buffer.height; ++y) {
         for (int x = 0; x < buffer.width; ++x) {
-            const std::uint8_t *pixel = buffer.data + std::ptrdiff_t(y) * buffer.stride + x * 4;
+            const std::uint8_t *pixel = pixelAt(buffer, x, y);
             for (int channel = 0; channel < 3; ++channel)
                 sum += std::fabs(pixel[channel]
                     - TestPicture::gradientChannel(
@@ -24,7 +33,7 @@ bool isOpaque(const FrameBuffer &buffer)
 {
     for (int y = 0; y < buffer.height; ++y)
         for (int x = 0; x < buffer.width; ++x)
-            if (buffer.data[std::ptrdiff_t(y) * buffer.stride + x * 4 + 3] != 255)
+            if (pixelAt(buffer, x, y)[3] != 255)
                 return false;
     return true;
 }
@@ -35,7 +44,7 @@ int onlyGrey(const FrameBuffer &buffer)
     for (int y = 0; y < buffer.height; ++y)
         for (int x = 0; x < buffer.width; ++x)
             for (int channel = 0; channel < 3; ++channel)
-                if (std::abs(buffer.data[std::ptrdiff_t(y) * buffer.stride + x * 4 + channel] - grey) > 2)
+                if (std::abs(pixelAt(buffer, x, y)[channel] - grey) > 2)
                     return -1;
     return grey;
 }

@@ -31,6 +31,13 @@ public:
         std::unique_lock lock(m_mutex);
         return m_changed.wait_for(lock, std::chrono::seconds(20), condition);
     }
+    // Whether the condition stays false for a moment. Correct code never makes it true, however slow it is.
+    template <typename Condition>
+    bool staysFalse(Condition condition)
+    {
+        std::unique_lock lock(m_mutex);
+        return !m_changed.wait_for(lock, std::chrono::milliseconds(50), condition);
+    }
     template <typename Read>
     auto read(Read value)
     {
@@ -98,6 +105,8 @@ public:
     void onScreenRotation(int rotation) override
     {
         m_signal.change([&] { m_rotations.push_back(rotation); });
+        if (duringRotation)
+            duringRotation();
     }
     int render(VideoFrame *frame) override
     {
@@ -111,7 +120,8 @@ public:
         m_signal.change([this] { ++m_arrivals; });
     }
 
-    // Before use: what render does and returns.
+    // Before use: what the callbacks do and render returns.
+    std::function<void()> duringRotation;
     std::function<void()> duringRender;
     int renderResult = 0;
 
