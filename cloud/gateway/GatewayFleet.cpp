@@ -7,6 +7,8 @@
 
 #include <QBuffer>
 
+#include <libyuv.h>
+
 #include <algorithm>
 
 namespace orvane::cloud {
@@ -20,6 +22,20 @@ constexpr std::size_t MaxConnections = 2048;
 constexpr std::chrono::milliseconds AcceptRetry{200};
 // For the farewells when the gateway goes down.
 constexpr std::chrono::seconds StopTime{2};
+
+// The image (32 bits per pixel) with its longest side at most `maxSide`; 0 = as it is. Not with
+// QImage::scaled(), which would start threads of its own.
+QImage scaledDown(const QImage &image, int maxSide)
+{
+    if (maxSide <= 0 || std::max(image.width(), image.height()) <= maxSide) {
+        return image;
+    }
+    const QSize size = image.size().scaled(maxSide, maxSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    QImage scaled(size, image.format());
+    libyuv::ARGBScale(image.constBits(), image.bytesPerLine(), image.width(), image.height(), scaled.bits(),
+        scaled.bytesPerLine(), size.width(), size.height(), libyuv::kFilterBox);
+    return scaled;
+}
 
 } // namespace
 
@@ -232,10 +248,7 @@ std::string GatewayFleet::screenPng(const std::string &padCode, int maxSide)
     if (!device) {
         return {};
     }
-    QImage image = device->screen();
-    if (maxSide > 0 && std::max(image.width(), image.height()) > maxSide) {
-        image = image.scaled(maxSide, maxSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    }
+    const QImage image = scaledDown(device->screen(), maxSide);
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
