@@ -129,8 +129,9 @@ TEST_F(SessionStop, EndOfTheRuntimeWithPeersThatDoNotAnswer)
 TEST_F(SessionStop, HammeredFromManyThreads)
 {
     for (int round = 0; round < 30; ++round) {
+        TestGateway own; // without connections that are left from earlier rounds
         makeSession();
-        setLogin(gateway.port());
+        setLogin(own.port());
         const auto sink = std::make_shared<RecordingSink>();
         session->attachSink(sink);
         session->start();
@@ -152,12 +153,13 @@ TEST_F(SessionStop, HammeredFromManyThreads)
             });
         }
         if (round % 3 != 0) {
-            peer = gateway.accept();
-            ASSERT_TRUE(peer);
-            peer->signIn();
-            for (std::uint64_t id = 1; id <= 20; ++id)
+            peer = own.accept();
+            EXPECT_TRUE(peer);
+            if (peer)
+                peer->signIn();
+            for (std::uint64_t id = 1; peer && id <= 20; ++id)
                 peer->send(frame(id));
-            if (round % 3 == 2)
+            if (peer && round % 3 == 2)
                 peer->cut();
         }
         session->stop();

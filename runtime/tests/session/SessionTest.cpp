@@ -318,6 +318,8 @@ TEST_F(SessionTest, StreamInformationIsCorrectedForTheClocks)
 TEST_F(SessionTest, InputThatWaitsIsMergedButNeverLost)
 {
     connect(SessionTimings()); // with pings so rare that none comes between
+    session->sendEvent(keyMessage(3, 0, false));
+    ASSERT_TRUE(peer->next(StreamMessage::kKey)); // and the first ping is over
     peer->pauseReading();
     // The first picture still arrives, since the gateway was waiting for a message; the second one gets
     // stuck.
