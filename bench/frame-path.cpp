@@ -6,6 +6,7 @@
 #include "Report.h"
 #include "Waiting.h"
 
+#include "VideoSink.h"
 #include "stream/VideoView.h"
 #include "swplay/SWDataSource.h"
 #include "swplay/SWDataSourceListener.h"
@@ -77,9 +78,13 @@ public:
     int start() override { return m_source->start(); }
     void attachSink(std::shared_ptr<swplay::VideoSink> sink) override
     {
-        const bool attached = sink != nullptr;
+        if (!sink) {
+            // First of all nothing may arrive any more.
+            m_source->attachSink(nullptr);
+            return;
+        }
         m_sink->setNext(std::move(sink));
-        m_source->attachSink(attached ? m_sink : nullptr);
+        m_source->attachSink(m_sink);
     }
 
 private:

@@ -7,6 +7,7 @@
 #include <QPainterPath>
 #include <QRadialGradient>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -16,6 +17,8 @@ namespace {
 
 constexpr int LayerWidth = 1920; // pixels; wider than the screen, then it repeats
 constexpr qreal Turn = 6.283185307179586;
+constexpr int GrainTile = 256; // pixels
+constexpr double GrainStrength = 7; // standard deviation, of 255
 
 struct HillStyle
 {
@@ -110,8 +113,25 @@ VideoScene::VideoScene(QSize screen)
     for (int i = 0; i < static_cast<int>(Hills.size()); ++i) {
         m_layers.at(static_cast<std::size_t>(i) + 1) = makeHills(i);
     }
+    m_grain = {makeGrain(1), makeGrain(2), makeGrain(3)};
     m_balloons = {makeBalloon(QColor(theme::Coral), QColor(0xFFFFD1BF), 150),
         makeBalloon(QColor(theme::Cyan), QColor(0xFFB5F0FF), 96)};
+}
+
+// Lighter and darker specks, strongest where the film is neither black nor white.
+QImage VideoScene::makeGrain(unsigned seed)
+{
+    QImage image = transparent({GrainTile, GrainTile});
+    std::mt19937 random(seed);
+    std::normal_distribution<double> speck(0, GrainStrength);
+    for (int y = 0; y < GrainTile; ++y) {
+        auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < GrainTile; ++x) {
+            const int strength = std::clamp(static_cast<int>(std::lround(speck(random))) * 2, -120, 120);
+            row[x] = strength > 0 ? qRgba(strength, strength, strength, strength) : qRgba(0, 0, 0, -strength);
+        }
+    }
+    return image;
 }
 
 QImage VideoScene::makeSky() const
@@ -213,6 +233,11 @@ void VideoScene::draw(QPainter &painter, int frame) const
             drawBalloons(painter, frame);
         }
     }
+    // Never twice in the same place in a row.
+    painter.setBrushOrigin(frame * 97 % GrainTile, frame * 61 % GrainTile);
+    painter.fillRect(
+        QRect(QPoint(), m_screen), QBrush(m_grain.at(static_cast<std::size_t>(frame) % m_grain.size())));
+    painter.setBrushOrigin(0, 0);
 }
 
 void VideoScene::drawBalloons(QPainter &painter, int frame) const

@@ -9,8 +9,9 @@ class QPainter;
 
 namespace orvane::cloud {
 
-// The moving picture of the video app: a flight over hills in the evening sun. Its layers are drawn once and
-// then only shifted, so that a picture costs a few copies. Immutable after construction: one instance per
+// The moving picture of the video app: a flight over hills in the evening sun, on grainy film, which costs an
+// encoder what camera footage costs. Its layers are drawn once and then only shifted, so that a picture costs a
+// few copies. Immutable after construction: one instance per
 // orientation serves every device, from any thread.
 class VideoScene
 {
@@ -32,6 +33,7 @@ private:
         int speed = 0; // pixels per frame
     };
 
+    static QImage makeGrain(unsigned seed);
     QImage makeSky() const;
     Layer makeClouds() const;
     Layer makeHills(int index) const;
@@ -41,6 +43,7 @@ private:
     QImage m_sky;
     std::array<Layer, 5> m_layers; // far to near
     std::array<QImage, 2> m_balloons;
+    std::array<QImage, 3> m_grain; // tiles of film grain, premultiplied
 };
 
 } // namespace orvane::cloud

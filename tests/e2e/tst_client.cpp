@@ -56,12 +56,14 @@ private:
 
 void TestClient::init()
 {
-    const QString programs = QCoreApplication::applicationDirPath();
-    m_service = std::make_unique<Service>(programs + QStringLiteral("/orvane-cloud"), 3);
-    m_service->start();
-    m_client = std::make_unique<Client>(programs + QStringLiteral("/orvane"));
-    m_client->setApiBaseUrl(m_service->apiBaseUrl());
-    m_client->start();
+    e2e::steps([&] {
+        const QString programs = QCoreApplication::applicationDirPath();
+        m_service = std::make_unique<Service>(programs + QStringLiteral("/orvane-cloud"), 3);
+        m_service->start();
+        m_client = std::make_unique<Client>(programs + QStringLiteral("/orvane"));
+        m_client->setApiBaseUrl(m_service->apiBaseUrl());
+        m_client->start();
+    });
 }
 
 void TestClient::cleanup()
@@ -143,105 +145,118 @@ void TestClient::closeMainWindow()
 
 void TestClient::signInWindowAndFiles()
 {
-    waitForSignInPage();
-    const QRect window = Desktop::window(mainWindow);
-    QCOMPARE(window.size(), QSize(300 + 2 * shadowMargin, 488 + 2 * shadowMargin));
-    // F11 does nothing before sign-in.
-    Desktop::activate(mainWindow);
-    Desktop::key(QStringLiteral("F11"));
-    QCOMPARE(settledPicture(QStringLiteral("still the page"), window).size(), window.size());
-    QCOMPARE(Desktop::window(mainWindow), window);
-    // Today's log of the client, and the streaming runtime's beside it.
-    const QDir logs(m_client->dataDir() + QStringLiteral("/log"));
-    QVERIFY(
-        logs.exists(QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log")));
-    QVERIFY(logs.entryList({QStringLiteral("*.log")}).size() >= 2);
-    closeMainWindow();
+    e2e::steps([&] {
+        waitForSignInPage();
+        const QRect window = Desktop::window(mainWindow);
+        QCOMPARE(window.size(), QSize(300 + 2 * shadowMargin, 488 + 2 * shadowMargin));
+        // F11 does nothing before sign-in.
+        Desktop::activate(mainWindow);
+        Desktop::key(QStringLiteral("F11"));
+        QCOMPARE(settledPicture(QStringLiteral("still the page"), window).size(), window.size());
+        QCOMPARE(Desktop::window(mainWindow), window);
+        // Today's log of the client, and the streaming runtime's beside it.
+        const QDir logs(m_client->dataDir() + QStringLiteral("/log"));
+        QVERIFY(logs.exists(
+            QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log")));
+        QVERIFY(logs.entryList({QStringLiteral("*.log")}).size() >= 2);
+        closeMainWindow();
+    });
 }
 
 void TestClient::wrongPasswordStaysOnThePage()
 {
-    waitForSignInPage();
-    const QImage before = Desktop::screenshot(Desktop::window(mainWindow));
-    signIn(QStringLiteral("wrong"));
-    waitUntil(QStringLiteral("the page says so"),
-        [&] { return e2e::difference(before, Desktop::screenshot(Desktop::window(mainWindow))) > 0.01; });
-    QCOMPARE(Desktop::window(mainWindow).size(), QSize(320, 508));
+    e2e::steps([&] {
+        waitForSignInPage();
+        const QImage before = Desktop::screenshot(Desktop::window(mainWindow));
+        signIn(QStringLiteral("wrong"));
+        waitUntil(QStringLiteral("the page says so"),
+            [&] { return e2e::difference(before, Desktop::screenshot(Desktop::window(mainWindow))) > 0.01; });
+        QCOMPARE(Desktop::window(mainWindow).size(), QSize(320, 508));
+    });
 }
 
 void TestClient::rememberedSessionOutlivesARestart()
 {
-    signIn();
-    waitForDeviceList();
-    // F11 now toggles the maximised size.
-    const QRect normal = Desktop::window(mainWindow);
-    Desktop::activate(mainWindow);
-    Desktop::key(QStringLiteral("F11"));
-    waitUntil(
-        QStringLiteral("maximised"), [] { return Desktop::window(mainWindow) == QRect(-3, -3, 1926, 1086); });
-    Desktop::key(QStringLiteral("F11"));
-    waitUntil(QStringLiteral("restored"), [&] { return Desktop::window(mainWindow) == normal; });
-    closeMainWindow();
+    e2e::steps([&] {
+        signIn();
+        waitForDeviceList();
+        // F11 now toggles the maximised size.
+        const QRect normal = Desktop::window(mainWindow);
+        Desktop::activate(mainWindow);
+        Desktop::key(QStringLiteral("F11"));
+        waitUntil(QStringLiteral("maximised"),
+            [] { return Desktop::window(mainWindow) == QRect(-3, -3, 1926, 1086); });
+        Desktop::key(QStringLiteral("F11"));
+        waitUntil(QStringLiteral("restored"), [&] { return Desktop::window(mainWindow) == normal; });
+        closeMainWindow();
 
-    m_client->start();
-    waitForDeviceList();
-    openFirstDevice();
+        m_client->start();
+        waitForDeviceList();
+        openFirstDevice();
+    });
 }
 
 void TestClient::deviceWindowOpensOnceAndIsGivenBack()
 {
-    signIn();
-    waitForDeviceList();
-    openFirstDevice();
-    const QString name = firstDevice("alias_name");
-    const QRect window = Desktop::window(name);
-    // Asked for again, the window that is there comes back.
-    Desktop::activate(mainWindow);
-    Desktop::key(QStringLiteral("Return"));
-    waitUntil(QStringLiteral("the second request"),
-        [this] { return m_client->log().count(QStringLiteral("openSingleControlWnd called")) == 2; });
-    QCOMPARE(Desktop::window(name).size(), window.size());
-    QCOMPARE(connectedSessions(), 1);
-    QCOMPARE(m_client->log().count(QStringLiteral("device apply request start")), 1);
+    e2e::steps([&] {
+        signIn();
+        waitForDeviceList();
+        openFirstDevice();
+        const QString name = firstDevice("alias_name");
+        const QRect window = Desktop::window(name);
+        // Asked for again, the window that is there comes back.
+        Desktop::activate(mainWindow);
+        Desktop::key(QStringLiteral("Return"));
+        waitUntil(QStringLiteral("the second request"),
+            [this] { return m_client->log().count(QStringLiteral("openSingleControlWnd called")) == 2; });
+        QCOMPARE(Desktop::window(name).size(), window.size());
+        QCOMPARE(connectedSessions(), 1);
+        QCOMPARE(m_client->log().count(QStringLiteral("device apply request start")), 1);
 
-    Desktop::activate(name);
-    Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + 20});
-    waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
-    waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
-    QVERIFY(m_client->isRunning());
+        Desktop::activate(name);
+        Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + 20});
+        waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
+        waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
+        QVERIFY(m_client->isRunning());
+    });
 }
 
 void TestClient::closedByTheWindowManagerIsGivenBackToo()
 {
-    signIn();
-    waitForDeviceList();
-    openFirstDevice();
-    const QString name = firstDevice("alias_name");
-    const QString pad = firstDevice("pad_code");
-    Desktop::activate(name);
-    Desktop::key(QStringLiteral("alt+F4"));
-    waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
-    waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
-    QVERIFY(m_client->isRunning());
-    closeMainWindow();
+    e2e::steps([&] {
+        signIn();
+        waitForDeviceList();
+        openFirstDevice();
+        const QString name = firstDevice("alias_name");
+        const QString pad = firstDevice("pad_code");
+        Desktop::activate(name);
+        Desktop::key(QStringLiteral("alt+F4"));
+        waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
+        waitUntil(QStringLiteral("the session is given back"), [this] { return connectedSessions() == 0; });
+        QVERIFY(m_client->isRunning());
+        closeMainWindow();
+    });
 }
 
 void TestClient::everyLogLineHasItsForm()
 {
-    signIn();
-    waitForDeviceList();
-    closeMainWindow();
-    static const QRegularExpression begin(QStringLiteral(
-        "^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} \\[(DEBUG|INFO|WARNING|CRITICAL|FATAL)\\]: "));
-    int lines = 0;
-    for (const QString &line : m_client->log().split(QLatin1Char('\n'))) {
-        // Further lines of one message are those of a JSON document.
-        const bool dated = begin.match(line).hasMatch();
-        lines += dated;
-        QVERIFY2(dated || !line.contains(QLatin1String("]: ")), qPrintable(line));
-    }
-    QVERIFY(lines > 3);
-    QVERIFY(m_client->log().contains(QStringLiteral("setLoginParams called, params ---> ")));
+    e2e::steps([&] {
+        signIn();
+        waitForDeviceList();
+        closeMainWindow();
+        static const QRegularExpression begin(
+            QStringLiteral("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} "
+                           "\\[(DEBUG|INFO|WARNING|CRITICAL|FATAL)\\]: "));
+        int lines = 0;
+        for (const QString &line : m_client->log().split(QLatin1Char('\n'))) {
+            // Further lines of one message are those of a JSON document.
+            const bool dated = begin.match(line).hasMatch();
+            lines += dated;
+            QVERIFY2(dated || !line.contains(QLatin1String("]: ")), qPrintable(line));
+        }
+        QVERIFY(lines > 3);
+        QVERIFY(m_client->log().contains(QStringLiteral("setLoginParams called, params ---> ")));
+    });
 }
 
 QTEST_MAIN(TestClient)

@@ -21,6 +21,12 @@ ShapingRelay::ShapingRelay(quint16 gatewayPort, QObject *parent)
     m_timer.start(tickMs);
 }
 
+ShapingRelay::~ShapingRelay()
+{
+    for (const Pipe &pipe : qAsConst(m_pipes))
+        pipe.from->disconnect();
+}
+
 void ShapingRelay::setStalls(int everyMs, int forMs)
 {
     m_stallEveryMs = everyMs;
@@ -38,14 +44,7 @@ void ShapingRelay::accept()
             socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         gateway->connectToHost(QHostAddress(QHostAddress::LocalHost), m_gatewayPort);
         connect(gateway, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
-        connect(client, &QTcpSocket::disconnected, this, [this, client, gateway] {
-            for (int i = m_pipes.size() - 1; i >= 0; --i) {
-                if (m_pipes[i].from == client || m_pipes[i].from == gateway)
-                    m_pipes.removeAt(i);
-            }
-            gateway->abort();
-            client->deleteLater();
-        });
+        connect(client, &QTcpSocket::disconnected, this, [this, client] { m_gone << client; });
         Pipe up;
         up.from = client;
         up.to = gateway;
@@ -55,6 +54,19 @@ void ShapingRelay::accept()
         down.limited = true;
         m_pipes << up << down;
     }
+}
+
+// Not while a pipe is being worked on: a write may find out that its socket is gone.
+void ShapingRelay::removeGone()
+{
+    for (QTcpSocket *client : qAsConst(m_gone)) {
+        for (int i = m_pipes.size() - 1; i >= 0; --i) {
+            if (m_pipes[i].from == client || m_pipes[i].to == client)
+                m_pipes.removeAt(i);
+        }
+        delete client; // and its gateway's end
+    }
+    m_gone.clear();
 }
 
 bool ShapingRelay::stalled(qint64 now) const
@@ -67,6 +79,7 @@ void ShapingRelay::pump()
     const qint64 now = m_clock.elapsed();
     const qint64 elapsed = now - m_lastPump;
     m_lastPump = now;
+    removeGone();
     for (Pipe &pipe : m_pipes) {
         fill(pipe, now);
         if (!stalled(now))

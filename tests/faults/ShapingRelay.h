@@ -19,6 +19,8 @@ class ShapingRelay : public QObject
 public:
     explicit ShapingRelay(quint16 gatewayPort, QObject *parent = nullptr);
 
+    ~ShapingRelay() override;
+
     quint16 port() const { return m_server.serverPort(); }
     // Each way, in milliseconds; 0 = none.
     void setDelay(int ms) { m_delayMs = ms; }
@@ -47,6 +49,7 @@ private:
 
     void accept();
     void pump();
+    void removeGone();
     void fill(Pipe &pipe, qint64 now);
     void drain(Pipe &pipe, qint64 now, qint64 elapsedMs);
     bool stalled(qint64 now) const;
@@ -56,6 +59,7 @@ private:
     QTimer m_timer;
     QElapsedTimer m_clock;
     QList<Pipe> m_pipes;
+    QList<QTcpSocket *> m_gone; // clients whose connection has ended
     qint64 m_lastPump = 0;
     qint64 m_bytesDown = 0;
     int m_delayMs = 0;

@@ -30,4 +30,14 @@ inline void waitUntil(const QString &what, const std::function<bool()> &conditio
     }
 }
 
+// Runs a test's steps; one that fails fails the test with its text.
+inline void steps(const std::function<void()> &body)
+{
+    try {
+        body();
+    } catch (const StepFailed &failure) {
+        QTest::qFail(failure.what(), __FILE__, __LINE__);
+    }
+}
+
 } // namespace e2e
