@@ -64,7 +64,7 @@ void TranslateManager::onLanguegeChanged(const QString &locale)
         m_translator = new QTranslator(this);
     // Exactly that file: empty, not null, or the toolkit would try shortened names and its own suffix as
     // well.
-    const QString none = QStringLiteral("");
+    const QString none = QLatin1String("");
     if (m_translator->load(fileName, translationDir(), none, none))
         QCoreApplication::installTranslator(m_translator);
 }

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -47,8 +48,8 @@ OvWindowBase::OvWindowBase(QWidget *parent)
 
 OvWindowBase::~OvWindowBase() = default;
 
-// At a fractional scale the window system reports sizes that are off by a rounding. Resizing for that would undo a
-// move that is still under way, since a resize names the position as well.
+// Whether the window has a size but for the rounding by which the window system's reports are off at a
+// fractional scale.
 bool OvWindowBase::isRoundingOf(const QSize &target) const
 {
     const QSize off = size() - target;
@@ -60,7 +61,9 @@ void OvWindowBase::updateWindowSize()
 {
     const int margins = 2 * m_shadowMargin;
     const QSize target = (contentSize() + QSize(margins, margins)).expandedTo(minimumSize());
-    if (!isRoundingOf(target))
+    // A move must not be answered with a resize for a rounding: a resize names the position as well and would
+    // undo moves that are still under way.
+    if (!m_followingMove || !isRoundingOf(target))
         resize(target);
     const auto descendants = findChildren<QWidget *>();
     for (QWidget *descendant : descendants)
@@ -260,6 +263,7 @@ void OvWindowBase::resizeTo(const QPoint &globalPos)
 void OvWindowBase::moveEvent(QMoveEvent *event)
 {
     QWidget::moveEvent(event);
+    const QScopedValueRollback<bool> followingMove(m_followingMove, true);
     updateWindowSize();
 }
 

@@ -94,6 +94,7 @@ private:
     bool m_maximized = false;
     bool m_resizing = false; // a resize drag is under way
     bool m_resizeLocked = false;
+    bool m_followingMove = false; // in the middle of moveEvent
     bool m_moveWithEdge = true;
     int m_edgeRegion = 0; // set of EdgeResize::Edge under the pointer
     int m_shadowMargin;

@@ -181,6 +181,7 @@ void TestLogManager::wholeLinesFromManyThreads()
     LogManager log(dir.path(), always(noon));
     std::atomic<bool> go{false};
     std::vector<std::thread> threads;
+    threads.reserve(threadCount);
     for (int thread = 0; thread < threadCount; ++thread) {
         threads.emplace_back([&log, &go, thread] {
             while (!go)

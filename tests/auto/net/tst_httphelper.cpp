@@ -246,10 +246,13 @@ void TestHttpHelper::errorStatus()
     server.setAnswer(R"({"code": 200, "msg": "not parsed"})", status);
     HttpHelper helper;
     Outcome outcome;
-    QNetworkReply *reply
-        = helper.post(server.baseUrl() + "/x", QStringLiteral("{}"), outcome.onSuccess(), outcome.onError());
     QString errorText;
-    connect(reply, &QNetworkReply::finished, this, [&] { errorText = reply->errorString(); });
+    QNetworkReply *reply = nullptr;
+    const auto onError = [&](const QString &error) {
+        outcome.errors << error;
+        errorText = reply->errorString();
+    };
+    reply = helper.post(server.baseUrl() + "/x", QStringLiteral("{}"), outcome.onSuccess(), onError);
     QTRY_COMPARE(outcome.count(), 1);
     QCOMPARE(outcome.errors, QStringList{errorText});
     QVERIFY(!errorText.isEmpty());
