@@ -197,7 +197,7 @@ struct TestGateway::Impl : std::enable_shared_from_this<TestGateway::Impl>
     void acceptNext()
     {
         acceptor.async_accept([self = shared_from_this()](const error_code &error, tcp::socket socket) {
-            if (error)
+            if (error || self->over)
                 return;
             self->tcpConnections.push(1);
             self->serve(std::move(socket));
@@ -217,7 +217,7 @@ struct TestGateway::Impl : std::enable_shared_from_this<TestGateway::Impl>
             all.push_back(peer);
             peer->stream().next_layer().async_handshake(
                 asio::ssl::stream_base::server, [self = shared_from_this(), peer](const error_code &error) {
-                    if (!error)
+                    if (!error && !self->over)
                         self->shakeHands(peer);
                 });
         } else {
@@ -237,7 +237,7 @@ struct TestGateway::Impl : std::enable_shared_from_this<TestGateway::Impl>
         peer->stream().read_message_max(16u << 20);
         peer->stream().auto_fragment(false);
         peer->stream().async_accept([self = shared_from_this(), peer](const error_code &error) {
-            if (error)
+            if (error || self->over)
                 return;
             self->peers.push(peer);
             peer->read();
@@ -253,6 +253,7 @@ struct TestGateway::Impl : std::enable_shared_from_this<TestGateway::Impl>
     WaitingQueue<std::shared_ptr<TestPeer>> peers;
     WaitingQueue<int> tcpConnections;
     std::thread thread;
+    bool over = false; // what completes from now on is let go
 };
 
 TestGateway::TestGateway(Kind kind, std::uint16_t port)
@@ -266,6 +267,7 @@ TestGateway::~TestGateway()
 {
     m_impl->io.stop();
     m_impl->thread.join();
+    m_impl->over = true;
     // What still waits holds references to the connections and to the gateway.
     error_code ignored;
     m_impl->acceptor.close(ignored);
