@@ -27,7 +27,7 @@ RecentApps::RecentApps()
 
 QSize RecentApps::pictureSize(QSize screen)
 {
-    return isLandscape(screen) ? QSize(336, 189) : QSize(171, 304);
+    return isLandscape(screen) ? QSize(272, 153) : QSize(189, 336);
 }
 
 void RecentApps::show(std::vector<Card> cards, QSize screen)
@@ -57,7 +57,7 @@ QRect RecentApps::pictureRect(std::size_t index) const
     const int inRow = std::min(perRow, count - row * perRow);
     const int cardHeight = size.height() + TitleHeight + Gap;
     const int left = (m_screen.width() - inRow * size.width() - (inRow - 1) * Gap) / 2;
-    const int top = (m_screen.height() - theme::NavigationBarHeight - 60 - rows * cardHeight) / 2;
+    const int top = (theme::StatusBarHeight + m_closeAll.rect().top() - rows * cardHeight + Gap) / 2;
     return {left + static_cast<int>(index) % perRow * (size.width() + Gap),
         top + row * cardHeight + TitleHeight, size.width(), size.height()};
 }

@@ -39,12 +39,27 @@ bool isEmojiModifier(uint codePoint)
         || (codePoint >= 0xE0020 && codePoint <= 0xE007F); // tags of regional flags
 }
 
-// Whether a boundary that Qt reports lies inside an emoji: Qt 5 knows combining marks and flags, but not the
-// newer rules that join emoji to one picture.
+// Whether the two letters of a flag are before and after `position`: they pair up from the start of their
+// run.
+bool isInsideFlag(const QString &text, int position)
+{
+    const auto isLetter = [&text](int at) {
+        const uint codePoint = codePointAt(text, at);
+        return codePoint >= 0x1F1E6 && codePoint <= 0x1F1FF;
+    };
+    int lettersBefore = 0;
+    for (int at = position - 2; at >= 0 && isLetter(at); at -= 2) {
+        ++lettersBefore;
+    }
+    return isLetter(position) && lettersBefore % 2 == 1;
+}
+
+// Whether a boundary that Qt reports lies inside an emoji: Qt 5 knows combining marks, but not the newer
+// rules that join emoji to one picture, and it takes flags apart that follow another emoji.
 bool isInsideEmoji(const QString &text, int position)
 {
     const uint next = codePointAt(text, position);
-    return isEmojiModifier(next) || next == ZeroWidthJoiner
+    return isEmojiModifier(next) || next == ZeroWidthJoiner || isInsideFlag(text, position)
         || (text[position - 1].unicode() == ZeroWidthJoiner && isPictograph(next));
 }
 

@@ -10,9 +10,9 @@ class QPainter;
 namespace orvane::cloud {
 
 // The moving picture of the video app: a flight over hills in the evening sun, on grainy film, which costs an
-// encoder what camera footage costs. Its layers are drawn once and then only shifted, so that a picture costs a
-// few copies. Immutable after construction: one instance per
-// orientation serves every device, from any thread.
+// encoder what camera footage costs. Its layers are drawn once and then only shifted, so that a picture costs
+// a few copies. Immutable after construction: one instance per orientation serves every device, from any
+// thread.
 class VideoScene
 {
 public:
