@@ -18,17 +18,6 @@
 
 namespace {
 
-// A camera that counts.
-class CountingForwarder : public MultimediaForwarder
-{
-public:
-    void start() override { ++starts; }
-    void stop() override { ++stops; }
-
-    int starts = 0;
-    int stops = 0;
-};
-
 stream::StreamingData sampleData()
 {
     stream::StreamingData data;
@@ -114,12 +103,6 @@ private slots:
     void nonAsciiText();
     void qualities_data();
     void qualities();
-    void sensorOfOtherTypes_data();
-    void sensorOfOtherTypes();
-    void camera_data();
-    void camera();
-    void cameraOfAnEndedSession();
-    void stopEndsForwarding();
     void playInfo();
     void videoResolution();
     void replacedDataSource();
@@ -415,81 +398,6 @@ void tst_StreamController::qualities()
         QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("no such video level: %1").arg(index)));
     controller.onVideoLevelChanged(index);
     QCOMPARE(takeCalls(), calls);
-}
-
-void tst_StreamController::sensorOfOtherTypes_data()
-{
-    QTest::addColumn<int>("type");
-    for (const int type : {0, 1, 198, 200, 211, 213, -199})
-        QTest::addRow("%d", type) << type;
-}
-
-void tst_StreamController::sensorOfOtherTypes()
-{
-    QFETCH(int, type);
-    CountingForwarder forwarder;
-    StreamController controller;
-    controller.setMultimediaForwarder(&forwarder);
-    controller.setDataSource(std::make_shared<SWDataSource>(1, nullptr));
-    takeCalls();
-    controller.onSensorInput(type, 1, 720, 1280);
-    controller.onSensorInput(type, 0, 720, 1280);
-    emit forwarder.sigSendPicture("jpeg");
-    QCOMPARE(forwarder.starts + forwarder.stops, 0);
-    QCOMPARE(takeCalls(), QStringList());
-}
-
-void tst_StreamController::camera_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::newRow("199") << 199;
-    QTest::newRow("212") << 212;
-}
-
-// Asked for twice, the camera's pictures still arrive once.
-void tst_StreamController::camera()
-{
-    QFETCH(int, type);
-    CountingForwarder forwarder;
-    StreamController controller;
-    controller.setMultimediaForwarder(&forwarder);
-    controller.setDataSource(std::make_shared<SWDataSource>(1, nullptr));
-    takeCalls();
-    controller.onSensorInput(type, 1, 720, 1280);
-    controller.onSensorInput(type, 1, 1, 1);
-    QCOMPARE(forwarder.starts, 2);
-    QCOMPARE(forwarder.stops, 0);
-    emit forwarder.sigSendPicture("jpeg");
-    emit forwarder.sigSendAudioData("pcm");
-    QCOMPARE(takeCalls(),
-        (QStringList{"SWDataSource::sendPicture(\"jpeg\", 4)", "SWDataSource::sendAudio(1, \"pcm\", 3)"}));
-    controller.onSensorInput(type, 0, 720, 1280);
-    QCOMPARE(forwarder.starts, 2);
-    QCOMPARE(forwarder.stops, 1);
-}
-
-void tst_StreamController::cameraOfAnEndedSession()
-{
-    CountingForwarder forwarder;
-    StreamController controller;
-    controller.setMultimediaForwarder(&forwarder);
-    controller.onSensorInput(199, 1, 720, 1280);
-    QCOMPARE(forwarder.starts, 0);
-}
-
-void tst_StreamController::stopEndsForwarding()
-{
-    CountingForwarder forwarder;
-    {
-        StreamController controller;
-        controller.setMultimediaForwarder(&forwarder);
-        controller.setVideoView(m_view.get());
-        controller.startStream(sampleData(), 1);
-        QCOMPARE(forwarder.stops, 0);
-        controller.stopStream();
-        QCOMPARE(forwarder.stops, 1);
-    }
-    QCOMPARE(forwarder.stops, 2);
 }
 
 // The text is gone when the SDK's call has returned; the signal comes on the GUI thread all the same.

@@ -7,7 +7,6 @@
 #include <swplay/SWDataSource.h>
 
 #include <QApplication>
-#include <QInputMethodEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -33,18 +32,6 @@ public:
 
     QVector<QPoint> points;
     QSize askedFor;
-};
-
-// A window around the view that sees the keys which the view passes on.
-class KeyWindow : public QWidget
-{
-public:
-    QList<int> pressed;
-    QList<int> released;
-
-protected:
-    void keyPressEvent(QKeyEvent *event) override { pressed.append(event->key()); }
-    void keyReleaseEvent(QKeyEvent *event) override { released.append(event->key()); }
 };
 
 } // namespace
@@ -90,9 +77,7 @@ private slots:
     void remoteRotationOfATile();
     void everyRemoteRotationIsTold();
     void setOrientation();
-    void keysGoOnToTheWindow();
     void controlIsForgottenWithTheFocus();
-    void committedText();
     void pressGoesStraightToTheSession();
 
 private:
@@ -105,7 +90,7 @@ private:
     void wheel(const QPoint &position, const QPoint &angle, const QPoint &pixels = {});
     void waitForGesture();
 
-    KeyWindow *m_window = nullptr;
+    QWidget *m_window = nullptr;
     VideoView *m_view = nullptr;
     std::shared_ptr<StreamController> m_controller;
     std::chrono::milliseconds m_now{1000};
@@ -118,7 +103,7 @@ void tst_VideoView::init()
     Recorder::instance().setRemoteSize(720, 1280);
     m_controller = std::make_shared<StreamController>();
     m_controller->setDataSource(std::make_shared<SWDataSource>(1, nullptr));
-    m_window = new KeyWindow;
+    m_window = new QWidget;
     m_window->resize(800, 800);
     m_view = new VideoView(m_window);
     m_view->setGeometry(20, 30, 360, 640);
@@ -567,19 +552,6 @@ void tst_VideoView::setOrientation()
     QCOMPARE(rotations.takeFirst().first().value<ScreenOrientation>(), ScreenOrientation::Portrait);
 }
 
-void tst_VideoView::keysGoOnToTheWindow()
-{
-    const QList<int> keys = {Qt::Key_A, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Space,
-        Qt::Key_Return, Qt::Key_Left, Qt::Key_Control};
-    m_view->setFocus();
-    for (const int key : keys)
-        QTest::keyClick(m_view, static_cast<Qt::Key>(key));
-    QCOMPARE(m_window->pressed, keys);
-    QCOMPARE(m_window->released, keys);
-    QVERIFY(m_view->hasFocus());
-    QCOMPARE(m_sent, QStringList());
-}
-
 void tst_VideoView::controlIsForgottenWithTheFocus()
 {
     m_view->setFocus();
@@ -587,19 +559,6 @@ void tst_VideoView::controlIsForgottenWithTheFocus()
     m_view->clearFocus();
     wheel({180, 320}, {0, 120});
     QCOMPARE(m_sent, QStringList("0: 360,512"));
-}
-
-void tst_VideoView::committedText()
-{
-    QSignalSpy texts(m_view, &VideoView::inputEvent);
-    QInputMethodEvent composing(QStringLiteral("ni"), {});
-    QApplication::sendEvent(m_view, &composing);
-    QCOMPARE(texts.count(), 0);
-    QInputMethodEvent committed;
-    committed.setCommitString(QStringLiteral("\u4f60\u597d"));
-    QApplication::sendEvent(m_view, &committed);
-    QCOMPARE(texts.count(), 1);
-    QCOMPARE(texts.first().first().toString(), QStringLiteral("\u4f60\u597d"));
 }
 
 // Wired as a window wires it, a press is in the SDK's hands when the mouse event returns.
