@@ -14,7 +14,7 @@ namespace http = boost::beast::http;
 
 namespace {
 
-constexpr auto lingerTime = std::chrono::seconds(2);
+constexpr std::chrono::milliseconds lingerTime = std::chrono::seconds(2);
 constexpr const char *serverName = "orvane-cloud";
 
 bool isLoopback(const asio::ip::address &address)
@@ -43,7 +43,7 @@ HttpConnection::HttpConnection(asio::ip::tcp::socket socket, HttpConnectionConte
     : m_context(context)
     , m_stream(std::move(socket))
 {
-    ++m_context.connections;
+    m_context.connections.insert(this);
     ErrorCode ignored; // the first read will tell
     m_stream.socket().set_option(asio::ip::tcp::no_delay(true), ignored);
     const auto peer = m_stream.socket().remote_endpoint(ignored);
@@ -52,7 +52,14 @@ HttpConnection::HttpConnection(asio::ip::tcp::socket socket, HttpConnectionConte
 
 HttpConnection::~HttpConnection()
 {
-    --m_context.connections;
+    m_context.connections.erase(this);
+}
+
+void HttpConnection::end()
+{
+    m_ending = true;
+    if (!m_handling)
+        m_stream.close();
 }
 
 void HttpConnection::readHeader()
@@ -95,6 +102,8 @@ void HttpConnection::onBody(ErrorCode error)
 {
     if (error)
         return onReadFailed(error);
+    if (m_ending)
+        return;
     m_stream.expires_never();
     m_request.message = m_parser->release();
     handle();
@@ -108,6 +117,7 @@ void HttpConnection::onReadFailed(ErrorCode error)
 
 void HttpConnection::handle()
 {
+    m_handling = true;
     asio::post(m_context.workers, [self = shared_from_this()]() mutable {
         HttpResponse response = self->m_context.handler(self->m_request);
         const auto executor = self->m_stream.get_executor();
@@ -119,21 +129,22 @@ void HttpConnection::handle()
 
 void HttpConnection::write(HttpResponse response, bool keepAlive)
 {
+    m_handling = false;
     m_response = std::move(response);
     m_response.version(11);
     m_response.set(http::field::server, serverName);
-    m_response.keep_alive(keepAlive);
+    m_response.keep_alive(keepAlive && !m_ending);
     // A reply without content has no length either.
     if (m_response.result() != http::status::no_content)
         m_response.prepare_payload();
-    m_stream.expires_after(m_context.options.writeTimeout);
+    m_stream.expires_after(m_ending ? lingerTime : m_context.options.writeTimeout);
     http::async_write(m_stream, m_response,
         [self = shared_from_this()](ErrorCode error, std::size_t) { self->onWritten(error); });
 }
 
 void HttpConnection::onWritten(ErrorCode error)
 {
-    if (error)
+    if (error || m_ending)
         return;
     if (m_response.keep_alive())
         readHeader();

@@ -11,11 +11,13 @@
 #include <boost/beast/http/parser.hpp>
 
 #include <array>
-#include <atomic>
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace orvane::cloud {
+
+class HttpConnection;
 
 // What the connections of one server share. Outlives them; owned by HttpServer.
 struct HttpConnectionContext
@@ -23,7 +25,7 @@ struct HttpConnectionContext
     HttpServerOptions options;
     HttpHandler handler;
     boost::asio::thread_pool workers;
-    std::atomic<int> connections{0}; // open ones
+    std::set<HttpConnection *> connections; // open ones; network thread
 
     HttpConnectionContext(HttpServerOptions serverOptions, HttpHandler requestHandler)
         : options(std::move(serverOptions))
@@ -44,6 +46,8 @@ public:
     HttpConnection &operator=(const HttpConnection &) = delete;
 
     void start() { readHeader(); }
+    // Closes it; if a request is being handled, once that is answered.
+    void end();
 
 private:
     using ErrorCode = boost::beast::error_code;
@@ -66,6 +70,8 @@ private:
     boost::beast::tcp_stream m_stream;
     boost::beast::flat_buffer m_buffer; // received, not yet parsed
     std::optional<Parser> m_parser;
+    bool m_handling = false;
+    bool m_ending = false;
     HttpRequest m_request; // the worker's while a request is handled
     boost::beast::http::response<boost::beast::http::empty_body> m_continue;
     HttpResponse m_response;

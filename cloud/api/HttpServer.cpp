@@ -2,6 +2,9 @@
 
 #include "api/ApiLog.h"
 
+#include <boost/asio/post.hpp>
+
+#include <future>
 #include <stdexcept>
 
 namespace orvane::cloud {
@@ -52,11 +55,22 @@ void HttpServer::listen()
 
 void HttpServer::stop()
 {
-    // Handlers first: they hand their replies to the network thread.
-    m_network.stop();
-    if (m_thread.joinable())
-        m_thread.join();
+    if (!m_thread.joinable())
+        return;
+    // First no more requests reach the workers, then the workers finish: they hand their replies to the
+    // network thread, which ends when these are written.
+    std::promise<void> closed;
+    asio::post(m_network, [this, &closed] {
+        m_acceptor.close();
+        m_acceptAgain.cancel();
+        for (HttpConnection *connection : m_context.connections)
+            connection->end();
+        closed.set_value();
+    });
+    closed.get_future().wait();
     m_context.workers.join();
+    m_work.reset();
+    m_thread.join();
 }
 
 void HttpServer::accept()
@@ -68,6 +82,8 @@ void HttpServer::accept()
 
 void HttpServer::onAccepted(const boost::beast::error_code &error, asio::ip::tcp::socket socket)
 {
+    if (!m_acceptor.is_open())
+        return;
     if (error) {
         qCWarning(apiLog, "accepting a connection: %s", error.message().c_str());
         m_acceptAgain.expires_after(acceptRetryDelay);
@@ -77,10 +93,10 @@ void HttpServer::onAccepted(const boost::beast::error_code &error, asio::ip::tcp
         });
         return;
     }
-    if (m_context.connections < m_context.options.maxConnections)
+    if (m_context.connections.size() < m_context.options.maxConnections)
         std::make_shared<HttpConnection>(std::move(socket), m_context)->start();
     else
-        qCWarning(apiLog, "refused a connection: %d are open", m_context.connections.load());
+        qCWarning(apiLog, "refused a connection: %zu are open", m_context.connections.size());
     accept();
 }
 

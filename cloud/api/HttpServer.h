@@ -2,6 +2,7 @@
 
 #include "api/HttpConnection.h"
 
+#include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/steady_timer.hpp>
@@ -25,7 +26,8 @@ public:
 
     // Listens and serves. Throws std::runtime_error when the address cannot be listened on. Once only.
     void start();
-    // Closes all connections; requests that are being handled finish first. May be called more than once.
+    // Closes all connections; requests that are being handled are answered first. May be called more than
+    // once.
     void stop();
 
     // The port that is listened on; valid after start().
@@ -40,6 +42,7 @@ private:
     boost::asio::io_context m_network{1};
     boost::asio::ip::tcp::acceptor m_acceptor; // network thread, once that runs
     boost::asio::steady_timer m_acceptAgain; // network thread
+    boost::asio::executor_work_guard<boost::asio::io_context::executor_type> m_work{m_network.get_executor()};
     std::uint16_t m_port = 0;
     std::thread m_thread;
 };

@@ -16,7 +16,7 @@ struct HttpServerOptions
 
     std::uint32_t maxHeaderBytes = 16 * 1024;
     std::uint64_t maxBodyBytes = 1024 * 1024;
-    int maxConnections = 512; // more are closed at once
+    std::size_t maxConnections = 512; // more are closed at once
 
     std::chrono::milliseconds idleTimeout = std::chrono::seconds(60); // up to the end of a request's header
     std::chrono::milliseconds bodyTimeout = std::chrono::seconds(15);

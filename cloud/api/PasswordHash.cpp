@@ -30,6 +30,11 @@ std::string derivedKey(std::string_view password, std::string_view salt, int ite
     return toHex(key);
 }
 
+std::string hashText(const std::string &salt, const std::string &key)
+{
+    return std::string(scheme) + '$' + std::to_string(hashIterations) + '$' + salt + '$' + key;
+}
+
 std::vector<std::string_view> split(std::string_view text, char separator)
 {
     std::vector<std::string_view> parts;
@@ -46,8 +51,12 @@ std::vector<std::string_view> split(std::string_view text, char separator)
 std::string hashPassword(std::string_view password)
 {
     const std::string salt = randomToken(saltBytes);
-    return std::string(scheme) + '$' + std::to_string(hashIterations) + '$' + salt + '$'
-        + derivedKey(password, salt, hashIterations);
+    return hashText(salt, derivedKey(password, salt, hashIterations));
+}
+
+std::string decoyHash()
+{
+    return hashText(std::string(saltBytes * 2, '0'), std::string(keyBytes * 2, '0'));
 }
 
 bool passwordMatches(std::string_view password, std::string_view hash)

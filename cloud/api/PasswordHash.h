@@ -12,6 +12,9 @@ namespace orvane::cloud {
 // Hash of a password with a new random salt. Throws std::runtime_error when the crypto library fails.
 std::string hashPassword(std::string_view password);
 
+// A hash that no known password belongs to; checking against it takes as long as against any other.
+std::string decoyHash();
+
 // Whether a password belongs to a hash; false for a text that is no such hash.
 bool passwordMatches(std::string_view password, std::string_view hash);
 

@@ -1,7 +1,6 @@
 #include "api/UserStore.h"
 
 #include "api/PasswordHash.h"
-#include "api/RandomToken.h"
 #include "api/Statement.h"
 #include "api/Transaction.h"
 
@@ -9,7 +8,6 @@ namespace orvane::cloud {
 
 UserStore::UserStore(Database &database)
     : m_database(database)
-    , m_decoyHash(hashPassword(randomToken(16)))
 { }
 
 bool UserStore::isEmpty() const
@@ -44,7 +42,7 @@ std::optional<User> UserStore::find(std::string_view account) const
 std::optional<User> UserStore::authenticate(std::string_view account, std::string_view password) const
 {
     std::optional<User> user;
-    std::string hash = m_decoyHash;
+    std::string hash = decoyHash();
     {
         const Database::Lock lock = m_database.lock();
         Statement select(

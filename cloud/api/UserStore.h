@@ -33,7 +33,6 @@ public:
 
 private:
     Database &m_database;
-    const std::string m_decoyHash; // of no account
 };
 
 } // namespace orvane::cloud
