@@ -18,7 +18,7 @@ namespace {
 constexpr int LayerWidth = 1920; // pixels; wider than the screen, then it repeats
 constexpr qreal Turn = 6.283185307179586;
 constexpr int GrainTile = 256; // pixels
-constexpr double GrainStrength = 7; // standard deviation, of 255
+constexpr double GrainStrength = 5; // standard deviation, of 255
 
 struct HillStyle
 {
