@@ -48,17 +48,9 @@ void StreamDecoder::close()
 
 void StreamDecoder::setFeedback(std::weak_ptr<VideoFeedback> feedback)
 {
-    bool wake = false;
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_closed)
-            return;
+    const std::lock_guard lock(m_mutex);
+    if (!m_closed)
         m_feedback = std::move(feedback);
-        m_joined = !m_feedback.expired() && m_needKeyFrame;
-        wake = becomeScheduled();
-    }
-    if (wake)
-        wakeWorker();
 }
 
 void StreamDecoder::accessUnit(AccessUnit unit)
@@ -131,8 +123,6 @@ bool StreamDecoder::serve()
     Step step;
     if (!beginStep(step))
         return endStep();
-    if (step.askForKeyFrame)
-        step.askForKeyFrame->keyframeNeeded();
     if (step.rotation
         && !withDisplay([&](VideoDisplay &display) { display.onScreenRotation(*step.rotation); }))
         keepRotation(*step.rotation);
@@ -142,7 +132,6 @@ bool StreamDecoder::serve()
         decode(step);
     else if (const VideoFrame *last = step.redraw ? m_decoder->picture() : nullptr)
         show(*last);
-    step = {}; // the session may be released here, while the stream still counts as being served
     return endStep();
 }
 
@@ -155,8 +144,6 @@ bool StreamDecoder::beginStep(Step &step)
     if (m_closed || !hasWork())
         return false;
     step.epoch = m_epoch;
-    if (std::exchange(m_joined, false) && m_needKeyFrame)
-        step.askForKeyFrame = keyFrameRequest();
     if (m_display) {
         step.rotation = std::exchange(m_rotation, std::nullopt);
         step.redraw = std::exchange(m_redraw, false);
@@ -297,7 +284,7 @@ StreamDecoder::FeedbackPtr StreamDecoder::keyFrameRequest()
 
 bool StreamDecoder::hasWork() const
 {
-    return !m_waiting.empty() || m_joined || (m_display && (m_rotation || m_redraw));
+    return !m_waiting.empty() || (m_display && (m_rotation || m_redraw));
 }
 
 // Whether the caller must put the stream into the pool's queue.

@@ -72,7 +72,6 @@ private:
         std::uint64_t epoch = 0;
         bool restart = false;
         bool redraw = false;
-        FeedbackPtr askForKeyFrame;
     };
 
     // With m_mutex held:
@@ -111,7 +110,6 @@ private:
     std::uint64_t m_lastFrameId = 0;
     std::optional<std::chrono::steady_clock::time_point> m_lastRequest;
     bool m_decodedSinceRequest = false;
-    bool m_joined = false; // the session was attached: a key frame is asked for once
     std::weak_ptr<VideoFeedback> m_feedback;
     std::optional<int> m_rotation; // not yet told to a display
     VideoDisplay *m_display = nullptr;

@@ -187,7 +187,7 @@ TEST_F(SWPlayerTest, MayBeDestroyedWhilePlaying)
     EXPECT_EQ(m_source->calls, "attach start detach ");
 }
 
-TEST_F(SWPlayerTest, JoiningARunningSessionAsksForAKeyFrame)
+TEST_F(SWPlayerTest, PlaysAgainAfterAStop)
 {
     SWPlayer player;
     player.setDataSource(m_source);
@@ -196,12 +196,12 @@ TEST_F(SWPlayerTest, JoiningARunningSessionAsksForAKeyFrame)
     m_source->sink->accessUnit(m_encoder.next(true));
     ASSERT_TRUE(m_display.waitForArrivals(1));
     player.stop();
-    const int before = m_source->feedback->requests();
-    player.start();
-    // The screen stands still: nothing would arrive by itself.
-    m_source->sink->screenRotation(1);
-    EXPECT_TRUE(m_display.waitForRotation());
-    EXPECT_EQ(m_source->feedback->requests(), before + 1);
+    EXPECT_EQ(player.start(), 0);
+    EXPECT_EQ(m_source->calls, "attach start detach attach start ");
+    m_source->sink->accessUnit(m_encoder.next(false)); // the running stream goes on where it is
+    EXPECT_EQ(m_source->feedback->requests(), 1);
+    m_source->sink->accessUnit(m_encoder.next(true));
+    EXPECT_TRUE(m_display.waitForArrivals(2));
 }
 
 TEST_F(SWPlayerTest, DisplayIsToldOfRotations)

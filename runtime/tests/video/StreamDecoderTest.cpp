@@ -22,10 +22,6 @@ protected:
         m_stream = std::make_shared<StreamDecoder>("Player 1", m_pool, [this] { return m_now; });
         m_stream->setDisplay(&m_display);
         m_stream->setFeedback(m_feedback);
-        step();
-        // A session that is joined is asked for a key frame once; the tests count from there.
-        ASSERT_EQ(m_feedback->requests(), 1);
-        m_now += 10s;
     }
     void TearDown() override { m_stream->close(); }
 
@@ -39,7 +35,7 @@ protected:
         m_stream->accessUnit(std::move(unit));
         step();
     }
-    int requests() { return m_feedback->requests() - 1; }
+    int requests() { return m_feedback->requests(); }
     std::uint64_t lastShown() { return m_display.shown().empty() ? 0 : m_display.shown().back().frameId; }
 
     std::chrono::steady_clock::time_point m_now{1000s};
