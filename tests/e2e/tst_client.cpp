@@ -211,7 +211,7 @@ void TestClient::deviceWindowOpensOnceAndIsGivenBack()
             [this] { return m_client->log().count(QStringLiteral("openSingleControlWnd called")) == 2; });
         QCOMPARE(Desktop::window(name).size(), window.size());
         QCOMPARE(connectedSessions(), 1);
-        QCOMPARE(m_client->log().count(QStringLiteral("device apply request start")), 1);
+        QCOMPARE(m_client->log().count(QStringLiteral("apply device request start")), 1);
 
         Desktop::activate(name);
         Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + 20});
