@@ -13,7 +13,7 @@ struct AccessUnit
     std::uint64_t frameId = 0;
     std::int64_t captureUs = 0; // gateway clock, microseconds
     bool keyFrame = false;
-    int width = 0;  // pixels
+    int width = 0; // pixels
     int height = 0; // pixels
     std::string data;
 };
@@ -25,8 +25,9 @@ public:
     virtual ~VideoFeedback() = default;
     // Decoding cannot go on without a key frame.
     virtual void keyframeNeeded() = 0;
-    virtual void pictureDecoded(std::uint64_t frameId, std::int64_t captureUs,
-        std::chrono::steady_clock::time_point decodedAt) = 0;
+    virtual void pictureDecoded(
+        std::uint64_t frameId, std::int64_t captureUs, std::chrono::steady_clock::time_point decodedAt)
+        = 0;
 };
 
 // Where a session's video goes. Implemented by the player; called on the network thread; never blocks.

@@ -62,7 +62,8 @@ TEST_F(PicturesTest, everyAppInPortraitAndLandscape)
         touch(Up, {});
         device.openApp("Notes");
         type("Shopping list\n\tbread, 2 × coffee ☕\n");
-        type("你好，世界。 مرحبا بالعالم สวัสดีชาวโลก 👩‍👩‍👧 "
+        type("你好，世界。 مرحبا بالعالم สวัสดีชาวโลก "
+             "👩‍👩‍👧 "
              "🇩🇪 "
              "naïve "
              "café\n");

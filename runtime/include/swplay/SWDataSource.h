@@ -22,10 +22,10 @@ public:
     // with the scheme "ws://" or "wss://" (plain = ws). Strings are UTF-8 and copied. `reserved`: 0.
     int setLoginParams(const char *controlIp, unsigned short controlPort, int userId, const char *sessionId,
         const char *padCode, int reserved);
-    // Playback settings; before start. The values are kept for the log; this runtime decodes H.264 in software
-    // and has no audio output, so none of them changes anything.
-    int setPlayParams(const char *name, int p1, int p2, int p3, int p4, int p5, int p6, int p7, int p8, int p9,
-        int p10, int p11, int p12);
+    // Playback settings; before start. The values are kept for the log; this runtime decodes H.264 in
+    // software and has no audio output, so none of them changes anything.
+    int setPlayParams(const char *name, int p1, int p2, int p3, int p4, int p5, int p6, int p7, int p8,
+        int p9, int p10, int p11, int p12);
     // Kind of business, told to the gateway at login; before start.
     int setBusinessType(int type);
 
@@ -34,7 +34,8 @@ public:
     // 0 = automatic, otherwise a row of the table.
     int setVideoLevel(int index);
     // Exactly this level. Bit rate in kbit/s, `reserved` and `quality`: 0.
-    int setVideoLevel(int codec, int reserved, int width, int height, int quality, int bitRate, int frameRate);
+    int setVideoLevel(
+        int codec, int reserved, int width, int height, int quality, int bitRate, int frameRate);
     // The level in effect, but with the width and height of the device's screen in portrait: the space of
     // sendTouchEvent's coordinates. Before the first login nothing is written and -1 is returned.
     int getVideoLevelResult(VideoLevel *level);
@@ -49,9 +50,9 @@ public:
     // `action`: 1 down, 2 up, 3 click; `key`: what Keyboard::getKeyCode returns or a Linux input key code;
     // 0 only tells the device that the user is there.
     int sendKeyEvent(int action, int key);
-    // Types text: zero-terminated UTF-8, read to its terminator. `length` is the caller's count of UTF-16 units
-    // with the terminator; it is at least 1 and is not otherwise used, since for non-ASCII text it is less
-    // than the bytes there are. At most 1 MiB; longer text is out of range.
+    // Types text: zero-terminated UTF-8, read to its terminator. `length` is the caller's count of UTF-16
+    // units with the terminator; it is at least 1 and is not otherwise used, since for non-ASCII text it is
+    // less than the bytes there are. At most 1 MiB; longer text is out of range.
     int sendInputString(const char *text, int length);
     // One camera picture as a JPEG of `size` bytes, at most 4 MiB. Newest wins while the connection is slow.
     int sendPicture(const char *data, int size);

@@ -35,10 +35,10 @@ public:
 
 // Values of SWDataSourceListener::onDisconnected.
 enum SWDisconnectReason {
-    SWDisconnectClosed = 0,        // the service ended the session
-    SWDisconnectRefused = 1,       // the session is unknown to the gateway
-    SWDisconnectExpired = 2,       // the device's time is over
-    SWDisconnectUnsupported = 3,   // the gateway speaks another protocol version
+    SWDisconnectClosed = 0, // the service ended the session
+    SWDisconnectRefused = 1, // the session is unknown to the gateway
+    SWDisconnectExpired = 2, // the device's time is over
+    SWDisconnectUnsupported = 3, // the gateway speaks another protocol version
     SWDisconnectBadParameters = 4, // address, port or session id missing or malformed
     SWDisconnectProtocolError = 5, // the gateway sent something malformed or too large
 };

@@ -29,7 +29,8 @@ public:
 
     // Starts the data source's session. Returns 0, or -1 without a data source or before SWRuntime::init.
     int start();
-    // Stops playing; the data source itself goes on until its own stop(). Blocks until no callback is running.
+    // Stops playing; the data source itself goes on until its own stop(). Blocks until no callback is
+    // running.
     void stop();
 
 private:

@@ -9,7 +9,7 @@
 struct FrameBuffer
 {
     std::uint8_t *data = nullptr;
-    int width = 0;  // pixels
+    int width = 0; // pixels
     int height = 0; // pixels
     int stride = 0; // bytes per row
 };

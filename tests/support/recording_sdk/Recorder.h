@@ -36,8 +36,8 @@ public:
     SWDataSourceListener *listener() const;
     VideoDisplay *display() const;
 
-    // Called with every call as it is made, on the thread that makes it; none = nobody. Set it while no call is
-    // under way.
+    // Called with every call as it is made, on the thread that makes it; none = nobody. Set it while no call
+    // is under way.
     void setObserver(std::function<void(const std::string &)> observer);
 
     // For the recording SDK itself.
