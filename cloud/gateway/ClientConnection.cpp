@@ -18,12 +18,12 @@ namespace {
 constexpr std::uint32_t ProtocolVersion = 1;
 constexpr const char *StreamPath = "/stream";
 constexpr std::uint32_t MaxRequestHeaderBytes = 16 * 1024;
-constexpr std::size_t ReadChunkBytes = 64 * 1024;
+constexpr std::size_t ReadChunkBytes = std::size_t(64) * 1024;
 // A large message's buffer is given back after it.
-constexpr std::size_t KeptBufferBytes = 256 * 1024;
+constexpr std::size_t KeptBufferBytes = std::size_t(256) * 1024;
 // Reading pauses while more than this waits for the device or for the client to read its answers.
 constexpr int MaxPendingMessages = 64;
-constexpr std::size_t MaxPendingBytes = 8 * 1024 * 1024;
+constexpr std::size_t MaxPendingBytes = std::size_t(8) * 1024 * 1024;
 constexpr std::size_t MaxOutgoing = 256;
 
 } // namespace

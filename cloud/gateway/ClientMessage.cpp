@@ -12,9 +12,9 @@ namespace orvane::cloud {
 namespace {
 
 // What a client may send; docs/protocol.md has the same figures.
-constexpr std::size_t MaxPictureBytes = 4 * 1024 * 1024;
-constexpr std::size_t MaxAudioBytes = 1024 * 1024;
-constexpr std::size_t MaxTextBytes = 1024 * 1024;
+constexpr std::size_t MaxPictureBytes = std::size_t(4) * 1024 * 1024;
+constexpr std::size_t MaxAudioBytes = std::size_t(1024) * 1024;
+constexpr std::size_t MaxTextBytes = std::size_t(1024) * 1024;
 constexpr std::size_t MaxIdBytes = 256;
 constexpr int MaxPoints = 10;
 constexpr int MaxLevels = 16;

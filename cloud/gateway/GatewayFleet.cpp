@@ -55,7 +55,11 @@ GatewayFleet::GatewayFleet(Options options, SessionStore &sessions)
 
 GatewayFleet::~GatewayFleet()
 {
-    stop();
+    try {
+        stop();
+    } catch (const std::exception &error) {
+        qCWarning(gatewayLog, "the gateway did not stop in order: %s", error.what());
+    }
 }
 
 bool GatewayFleet::start()

@@ -89,10 +89,15 @@ void H264Encoder::Closer::operator()(x264_t *encoder) const
 H264Encoder::H264Encoder(const Settings &settings)
     : m_settings(settings)
 {
-    x264_param_t param = parametersFor(settings);
-    m_encoder.reset(x264_encoder_open(&param));
+    const bool plausible = settings.width > 0 && settings.height > 0 && settings.width % 2 == 0
+        && settings.height % 2 == 0 && settings.frameRate > 0 && settings.bitRate > 0;
+    if (plausible) {
+        x264_param_t param = parametersFor(settings);
+        m_encoder.reset(x264_encoder_open(&param));
+        x264_param_cleanup(&param);
+    }
     if (!m_encoder) {
-        throw std::runtime_error("x264 refuses " + std::to_string(settings.width) + "x"
+        throw std::runtime_error("no H.264 encoder for " + std::to_string(settings.width) + "x"
             + std::to_string(settings.height) + " at " + std::to_string(settings.bitRate) + " kbit/s");
     }
 }

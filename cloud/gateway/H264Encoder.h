@@ -39,7 +39,7 @@ public:
         std::optional<int> quantizer; // none = as the bit rate allows
     };
 
-    // Throws std::runtime_error when x264 refuses the settings.
+    // Throws std::runtime_error when the settings cannot be used.
     explicit H264Encoder(const Settings &settings);
     ~H264Encoder();
     H264Encoder(const H264Encoder &) = delete;

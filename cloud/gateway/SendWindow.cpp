@@ -8,9 +8,9 @@ using std::chrono::microseconds;
 
 namespace {
 
-constexpr std::size_t InitialWindowBytes = 48 * 1024; // 0.4 s on a 1 Mbit/s link
-constexpr std::size_t MinWindowBytes = 4 * 1024;
-constexpr std::size_t MaxWindowBytes = 4 * 1024 * 1024;
+constexpr std::size_t InitialWindowBytes = std::size_t(48) * 1024; // 0.4 s on a 1 Mbit/s link
+constexpr std::size_t MinWindowBytes = std::size_t(4) * 1024;
+constexpr std::size_t MaxWindowBytes = std::size_t(4) * 1024 * 1024;
 constexpr std::chrono::milliseconds TargetDelay{120};
 constexpr std::chrono::seconds PathDelayPeriod{15};
 // A path's own delay may grow by so much; more is taken for queueing.

@@ -111,14 +111,12 @@ private:
                 self.complete(error, 0);
             } else if (shaped.isStalled(now)) {
                 wait(self, shaped.m_stalledUntil);
-            } else if (!shaped.m_bucket.isLimited()) {
+            } else if (!shaped.m_bucket.isLimited() || boost::asio::buffer_size(buffers) == 0) {
                 shaped.m_socket.async_write_some(buffers, std::move(self));
             } else if (const auto allowed
                 = shaped.m_bucket.available(boost::asio::buffer_size(buffers), now)) {
                 shaped.m_socket.async_write_some(
                     boost::beast::buffers_prefix(allowed, buffers), std::move(self));
-            } else if (boost::asio::buffer_size(buffers) == 0) {
-                shaped.m_socket.async_write_some(buffers, std::move(self));
             } else {
                 wait(self, shaped.m_bucket.nextTime(now));
             }

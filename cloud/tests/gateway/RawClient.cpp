@@ -23,14 +23,6 @@ RawClient::RawClient(std::uint16_t port, const std::string &path)
     m_httpStatus = static_cast<int>(response.result_int());
 }
 
-RawClient::~RawClient()
-{
-    error_code ignored;
-    m_stream.next_layer().close(ignored);
-    m_context.restart();
-    m_context.poll();
-}
-
 template <typename Start>
 bool RawClient::run(Start start)
 {

@@ -23,7 +23,6 @@ public:
     static constexpr std::chrono::seconds Limit{20};
 
     explicit RawClient(std::uint16_t port, const std::string &path = "/stream");
-    ~RawClient();
 
     bool isConnected() const { return m_connected; }
     int httpStatus() const { return m_httpStatus; } // of a refused handshake

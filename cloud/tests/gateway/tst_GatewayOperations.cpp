@@ -61,8 +61,8 @@ TEST_F(GatewayFleetTest, AFloodOfInputSlowsItsSenderAndLosesNothing)
     start();
     fleet->openApp("VM1", "Paint");
     auto client = signIn();
-    constexpr int pairs = 3000;
-    for (int i = 0; i < pairs; ++i) {
+    constexpr std::uint64_t pairs = 3000;
+    for (std::uint64_t i = 0; i < pairs; ++i) {
         ASSERT_TRUE(client->send(DownBytes));
         ASSERT_TRUE(client->send(UpBytes));
     }
