@@ -9,6 +9,8 @@ namespace orvane::cloud {
 
 namespace {
 
+constexpr int Up = 1; // action of a touch frame
+
 // For each of `to` the index of the element of `from` that it continues, or -1: nearest pairs first, each
 // used once.
 template <typename From, typename To>
@@ -31,6 +33,31 @@ std::vector<int> nearestPairs(const std::vector<From> &from, const std::vector<T
         }
     }
     return match;
+}
+
+std::vector<int> inOrder(std::size_t count)
+{
+    std::vector<int> match(count);
+    std::iota(match.begin(), match.end(), 0);
+    return match;
+}
+
+// Which of `fingers` the frame lifts: those it no longer lists, and with an up frame at least one.
+template <typename Finger>
+std::vector<bool> liftedFingers(int action, const std::vector<Finger> &fingers, const std::vector<int> &match)
+{
+    std::vector<bool> lifted(fingers.size(), true);
+    for (const int index : match) {
+        if (index >= 0) {
+            lifted[static_cast<std::size_t>(index)] = false;
+        }
+    }
+    if (action == Up && match.size() == fingers.size()) {
+        for (std::size_t i = 0; i < fingers.size() && fingers[i].birth == fingers.front().birth; ++i) {
+            lifted[i] = true;
+        }
+    }
+    return lifted;
 }
 
 } // namespace
@@ -57,78 +84,51 @@ std::vector<FingerTracker::Target> FingerTracker::targets(const std::vector<Touc
 std::vector<FingerEvent> FingerTracker::frame(
     const std::string &session, int action, const std::vector<TouchPoint> &points)
 {
-    constexpr int Up = 1;
     ++m_frames;
     const std::vector<Target> targets = this->targets(points);
-    const std::vector<Finger> before = m_sessions[session];
+    const auto known = m_sessions.find(session);
+    std::vector<Finger> fingers = known == m_sessions.end() ? std::vector<Finger>() : known->second;
+    const std::vector<int> match
+        = targets.size() == fingers.size() ? inOrder(targets.size()) : nearestPairs(fingers, targets);
+    const std::vector<bool> lifted = liftedFingers(action, fingers, match);
 
-    std::vector<int> match; // by target: index in `before`, -1 = new
-    if (targets.size() == before.size()) {
-        match.resize(targets.size());
-        std::iota(match.begin(), match.end(), 0);
-    } else {
-        match = nearestPairs(before, targets);
-    }
-    std::vector<bool> lifted(before.size(), true);
-    for (const int index : match) {
-        if (index >= 0) {
-            lifted[static_cast<std::size_t>(index)] = false;
-        }
-    }
-    if (action == Up && targets.size() == before.size()) {
-        for (std::size_t i = 0; i < before.size() && before[i].birth == before.front().birth; ++i) {
-            lifted[i] = true;
-        }
-    }
-
-    std::vector<FingerEvent> ups, moves, downs;
-    std::vector<Finger> after;
+    std::vector<FingerEvent> events;
+    std::vector<FingerEvent> downs;
+    std::vector<Finger> after; // in the order of the list
     for (std::size_t t = 0; t < targets.size(); ++t) {
         const Target &target = targets[t];
-        Finger finger{0, m_frames, target.position};
-        if (match[t] < 0) {
-            finger.id = ++m_lastId;
-            downs.push_back({FingerEvent::Phase::Down, finger.id, target.position, target.pressure});
-        } else {
-            const Finger &old = before[static_cast<std::size_t>(match[t])];
-            finger.id = old.id;
-            finger.birth = old.birth;
-            if (old.position != target.position) {
-                moves.push_back({FingerEvent::Phase::Move, finger.id, target.position, target.pressure});
+        if (match[t] >= 0) {
+            const auto index = static_cast<std::size_t>(match[t]);
+            Finger &finger = fingers[index];
+            if (finger.position != target.position) {
+                finger.position = target.position;
+                events.push_back({FingerEvent::Phase::Move, finger.id, target.position, target.pressure});
             }
-            if (lifted[static_cast<std::size_t>(match[t])]) {
-                continue; // moved to its end, then lifted below
+            if (!lifted[index]) {
+                after.push_back(finger);
             }
-        }
-        after.push_back(finger);
-    }
-    std::vector<FingerEvent> ends; // fingers that the frame still lists end after their last move
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        if (!lifted[i]) {
-            continue;
-        }
-        const auto listed = std::find(match.begin(), match.end(), static_cast<int>(i));
-        if (listed == match.end()) {
-            ups.push_back({FingerEvent::Phase::Up, before[i].id, before[i].position, 1});
-        } else {
-            const auto t = static_cast<std::size_t>(listed - match.begin());
-            ends.push_back({FingerEvent::Phase::Up, before[i].id, targets[t].position, 1});
+        } else if (action != Up) {
+            after.push_back({++m_lastId, m_frames, target.position});
+            downs.push_back({FingerEvent::Phase::Down, m_lastId, target.position, target.pressure});
         }
     }
+    for (std::size_t i = 0; i < fingers.size(); ++i) {
+        if (lifted[i]) {
+            events.push_back({FingerEvent::Phase::Up, fingers[i].id, fingers[i].position, 1});
+        }
+    }
+    events.insert(events.end(), downs.begin(), downs.end());
     if (after.empty()) {
         m_sessions.erase(session);
     } else {
         m_sessions[session] = std::move(after);
     }
-    ups.insert(ups.end(), moves.begin(), moves.end());
-    ups.insert(ups.end(), ends.begin(), ends.end());
-    ups.insert(ups.end(), downs.begin(), downs.end());
-    return ups;
+    return events;
 }
 
 std::vector<FingerEvent> FingerTracker::lift(const std::string &session)
 {
-    return frame(session, 1, {});
+    return frame(session, Up, {});
 }
 
 void FingerTracker::clear()

@@ -29,7 +29,7 @@ struct FingerEvent
 // front of the mouse. Frames with as many fingers as before are matched by place, all others by distance.
 //
 // An up frame always lifts something: clients end a wheel gesture with an up frame that still lists the
-// gesture's fingers, which are the first of the list and came down together.
+// gesture's fingers, which are the first of the list and came down together. It never brings one down.
 //
 // Thread-compatible, owned by the device.
 class FingerTracker
@@ -40,7 +40,7 @@ public:
 
     explicit FingerTracker(QSize screen);
 
-    // Events of one frame: ups, then moves, then downs. `action`: 0 down, 1 up, 2 move.
+    // Events of one frame: moves, then ups, then downs. `action`: 0 down, 1 up, 2 move.
     std::vector<FingerEvent> frame(
         const std::string &session, int action, const std::vector<TouchPoint> &points);
     // Lifts every finger of the session.

@@ -121,6 +121,15 @@ TEST_F(FingerTrackerTest, wheelGestureEndsBesideFingersThatStay)
     EXPECT_EQ(frame(Move, {{601, 900}}), (List{{Phase::Move, 1, {601, 900}}}));
 }
 
+TEST_F(FingerTrackerTest, upFrameBringsNoFingerDown)
+{
+    EXPECT_EQ(frame(Up, {{360, 640}}), (List{})); // the end of a gesture that a restart has cut off
+    EXPECT_EQ(tracker.count(), 0);
+    frame(Down, {{100, 100}});
+    EXPECT_EQ(frame(Up, {{100, 100}, {500, 500}}), (List{}));
+    EXPECT_EQ(tracker.count(), 1);
+}
+
 TEST_F(FingerTrackerTest, sessionsHaveTheirOwnFingers)
 {
     frame(Down, {{100, 100}}, "one");
