@@ -60,7 +60,7 @@ QString Client::log() const
 {
     QString text;
     const QDir dir(dataDir() + QStringLiteral("/log"));
-    for (const QString &name : dir.entryList({QStringLiteral("????-??-??.log")}, QDir::Files, QDir::Name)) {
+    for (const QString &name : dir.entryList({QStringLiteral("[0-9]*.log")}, QDir::Files, QDir::Name)) {
         QFile file(dir.filePath(name));
         if (file.open(QIODevice::ReadOnly))
             text += QString::fromUtf8(file.readAll());
