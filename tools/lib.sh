@@ -16,8 +16,6 @@ build_packages=(
 display_packages=(xvfb openbox xdotool x11-utils libgl1-mesa-dri)
 # What the tests need besides.
 test_packages=(libgtest-dev libgmock-dev python3)
-# What the static checks of CI need besides.
-check_packages=(clang-format clang-tidy clazy)
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then
