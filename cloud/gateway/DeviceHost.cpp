@@ -12,6 +12,8 @@ namespace {
 
 // More viewers of one device than this are told to come back later.
 constexpr std::size_t MaxViewers = 32;
+// Action of a touch frame in which no finger went down or up.
+constexpr int TouchMove = 2;
 
 // Where a coordinate of the client's reference size lies on the screen: pixel centres are mapped, and what
 // lies outside goes to the edge. `reference` 0 = the screen's own size.
@@ -20,6 +22,17 @@ int toScreen(int value, int reference, int screen)
     const std::int64_t size = reference > 0 ? reference : screen;
     const std::int64_t clamped = std::clamp<std::int64_t>(value, 0, size - 1);
     return static_cast<int>((2 * clamped + 1) * screen / (2 * size));
+}
+
+std::vector<TouchPoint> onScreen(const client::Touch &touch, QSize screen)
+{
+    std::vector<TouchPoint> points;
+    points.reserve(touch.points.size());
+    for (const client::Touch::Point &point : touch.points) {
+        points.push_back({toScreen(point.x, touch.referenceWidth, screen.width()),
+            toScreen(point.y, touch.referenceHeight, screen.height()), point.pressure});
+    }
+    return points;
 }
 
 template <typename... Handlers>
@@ -168,7 +181,7 @@ void DeviceHost::catchUp(TimePoint now)
 
 void DeviceHost::postUpdate()
 {
-    boost::asio::post(m_strand, [self = shared_from_this()] { self->update(true); });
+    boost::asio::post(m_strand, [self = shared_from_this()] { self->update(FrameCause::Press); });
 }
 
 // --- Strand ---
@@ -196,7 +209,7 @@ void DeviceHost::joinNow(Joining joining)
     joining.link->accept(server::loginAccepted(size, rotation));
     m_entries.push_back(std::make_unique<Entry>(Entry{joining.connection,
         Viewer(joining.sessionId, std::move(joining.link), std::move(joining.counters))}));
-    update(false);
+    update(FrameCause::Animation);
 }
 
 void DeviceHost::leaveNow(ConnectionId connection)
@@ -211,7 +224,7 @@ void DeviceHost::leaveNow(ConnectionId connection)
         m_device.sessionGone((*entry)->viewer.sessionId(), Clock::now());
     }
     m_entries.erase(entry);
-    update(true);
+    update(FrameCause::Press);
 }
 
 Viewer *DeviceHost::find(ConnectionId connection)
@@ -236,56 +249,51 @@ void DeviceHost::receiveNow(ConnectionId connection, ClientMessage &message)
     if (!viewer) {
         return; // replaced or on its way out: its input no longer counts
     }
+    if (const auto cause = input(viewer->sessionId(), message)) {
+        return update(*cause);
+    }
     const TimePoint now = Clock::now();
-    const std::string &session = viewer->sessionId();
-    const auto device = [this](auto action) {
-        const std::lock_guard lock(m_deviceMutex);
-        action(m_device, Clock::now()); // times must not go back: read with the mutex held
-        return true;
-    };
-    const bool afterInput = std::visit(
-        Overloaded{
-            [&](const client::Touch &touch) { return input(session, touch), true; },
-            [&](const client::Key &key) {
-                return device(
-                    [&](auto &d, TimePoint time) { d.key(session, key.action, key.code, key.shift, time); });
-            },
-            [&](const client::Text &text) {
-                return device([&](auto &d, TimePoint time) { d.text(session, text.text, time); });
-            },
-            [&](const client::Picture &picture) {
-                return device([&](auto &d, TimePoint time) { d.picture(session, picture.jpeg, time); });
-            },
-            [&](const client::Audio &audio) {
-                return device(
-                    [&](auto &d, TimePoint time) { d.audio(session, audio.format, audio.data, time); });
-            },
-            [&](const client::VideoLevels &levels) { return viewer->setLevels(levels), false; },
-            [&](const client::ChooseRow &choice) { return viewer->choose(choice), false; },
-            [&](const client::ChooseCustom &choice) { return viewer->choose(choice), false; },
-            [&](const client::ScreenCast &cast) { return viewer->setCastMode(cast.mode), false; },
-            [&](const client::KeyframeRequest &) { return viewer->requestKeyFrame(now), false; },
-            [&](const client::FrameAck &ack) { return viewer->acknowledge(ack.frameId, now), false; },
-            [](const auto &) { return false; }, // handled by the connection
-        },
+    std::visit(Overloaded{
+                   [&](const client::VideoLevels &levels) { viewer->setLevels(levels); },
+                   [&](const client::ChooseRow &choice) { viewer->choose(choice); },
+                   [&](const client::ChooseCustom &choice) { viewer->choose(choice); },
+                   [&](const client::ScreenCast &cast) { viewer->setCastMode(cast.mode); },
+                   [&](const client::KeyframeRequest &) { viewer->requestKeyFrame(now); },
+                   [&](const client::FrameAck &ack) { viewer->acknowledge(ack.frameId, now); },
+                   [](const auto &) {}, // handled by the connection
+               },
         message);
-    update(afterInput);
+    update(FrameCause::Animation);
 }
 
-void DeviceHost::input(const std::string &sessionId, const client::Touch &touch)
+std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
 {
     const std::lock_guard lock(m_deviceMutex);
-    const QSize size = m_device.screenSize();
-    std::vector<TouchPoint> points;
-    points.reserve(touch.points.size());
-    for (const client::Touch::Point &point : touch.points) {
-        points.push_back({toScreen(point.x, touch.referenceWidth, size.width()),
-            toScreen(point.y, touch.referenceHeight, size.height()), point.pressure});
+    const TimePoint now = Clock::now(); // the device's times must not go back: read with the mutex held
+    if (const auto *touch = std::get_if<client::Touch>(&message)) {
+        m_device.touch(session, touch->action, onScreen(*touch, m_device.screenSize()), now);
+        return touch->action == TouchMove ? FrameCause::Motion : FrameCause::Press;
     }
-    m_device.touch(sessionId, touch.action, points, Clock::now());
+    if (const auto *key = std::get_if<client::Key>(&message)) {
+        m_device.key(session, key->action, key->code, key->shift, now);
+        return FrameCause::Press;
+    }
+    if (const auto *text = std::get_if<client::Text>(&message)) {
+        m_device.text(session, text->text, now);
+        return FrameCause::Press;
+    }
+    if (const auto *picture = std::get_if<client::Picture>(&message)) {
+        m_device.picture(session, picture->jpeg, now);
+        return FrameCause::Motion;
+    }
+    if (const auto *audio = std::get_if<client::Audio>(&message)) {
+        m_device.audio(session, audio->format, audio->data, now);
+        return FrameCause::Motion;
+    }
+    return std::nullopt;
 }
 
-void DeviceHost::update(bool afterInput)
+void DeviceHost::update(FrameCause cause)
 {
     const bool watched = isWatched();
     TimePoint now;
@@ -311,7 +319,7 @@ void DeviceHost::update(bool afterInput)
     m_stale = m_stale.united(dirty);
     for (const auto &entry : m_entries) {
         if (!dirty.isEmpty()) {
-            entry->viewer.screenChanged(afterInput);
+            entry->viewer.screenChanged(cause);
         }
         entry->viewer.pump(now, [this]() -> const YuvPicture & { return picture(); });
     }
@@ -368,7 +376,7 @@ void DeviceHost::schedule(TimePoint now, std::optional<TimePoint> deviceTick)
     m_timer.async_wait([self = weak_from_this()](const boost::system::error_code &error) {
         if (const auto host = self.lock(); host && !error) {
             host->m_timerAt.reset();
-            host->update(false);
+            host->update(FrameCause::Animation);
         }
     });
 }

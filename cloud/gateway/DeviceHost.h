@@ -92,10 +92,11 @@ private:
     void joinNow(Joining joining);
     void leaveNow(ConnectionId connection);
     void receiveNow(ConnectionId connection, ClientMessage &message);
-    void input(const std::string &sessionId, const client::Touch &touch);
+    // Gives input to the device. None when the message is no input.
+    std::optional<FrameCause> input(const std::string &session, const ClientMessage &message);
     Viewer *find(ConnectionId connection);
     bool isWatched() const;
-    void update(bool afterInput);
+    void update(FrameCause cause);
     void deliver(const DeviceEvent &event);
     const YuvPicture &picture();
     void schedule(TimePoint now, std::optional<TimePoint> deviceTick);

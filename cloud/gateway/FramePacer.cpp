@@ -6,22 +6,33 @@ namespace orvane::cloud {
 
 namespace {
 
-// What a fast screen shows. A few frames may follow each other at once, such as for a press and its release.
-constexpr auto InputInterval = std::chrono::microseconds(1'000'000 / 60);
-constexpr auto InputTolerance = 2 * InputInterval;
+// What a fast screen shows.
+constexpr auto ScreenInterval = std::chrono::microseconds(1'000'000 / 60);
+constexpr auto MotionTolerance = ScreenInterval;
+// Ten presses and releases in one moment, and as many as the screen shows from then on.
+constexpr auto PressTolerance = 20 * ScreenInterval;
 
 } // namespace
 
-TimePoint FramePacer::nextFrameTime(bool afterInput, TimePoint now) const
+TimePoint FramePacer::nextFrameTime(FrameCause cause, TimePoint now) const
 {
-    const TimePoint due = afterInput ? std::min(m_due, m_inputDue) : m_due;
+    TimePoint due = m_due;
+    if (cause != FrameCause::Animation) {
+        due = std::min(due, m_motionDue);
+    }
+    if (cause == FrameCause::Press) {
+        due = std::min(due, m_pressDue);
+    }
     return std::max(due, now);
 }
 
-void FramePacer::frameSent(TimePoint now)
+void FramePacer::frameSent(FrameCause cause, TimePoint now)
 {
     m_due = advance(m_due, now, interval(), interval() / 2);
-    m_inputDue = advance(m_inputDue, now, InputInterval, InputTolerance);
+    m_motionDue = advance(m_motionDue, now, ScreenInterval, MotionTolerance);
+    if (cause == FrameCause::Press) {
+        m_pressDue = advance(m_pressDue, now, ScreenInterval, PressTolerance);
+    }
 }
 
 TimePoint FramePacer::advance(

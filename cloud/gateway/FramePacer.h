@@ -4,17 +4,25 @@
 
 namespace orvane::cloud {
 
-// Spaces the frames of one session. Frames of their own accord (animation) keep to the level's frame rate; a
-// frame that shows the effect of input goes at once, up to the rate of a fast screen, so that what the user
-// does is never held back. Pure logic, time is passed in; used by one thread at a time (Viewer).
+// Why a picture has changed, from the least to the most urgent.
+enum class FrameCause {
+    Animation, // of the device's own accord
+    Motion, // a finger moved, a camera picture came
+    Press, // a finger or key went down or up, text was typed, the service acted
+};
+
+// Spaces the frames of one session. Animation keeps to the level's frame rate. A frame that shows the effect
+// of input goes at once: motion up to the rate of a fast screen, a press whatever was sent before, so that
+// what the user does is never held back; only presses far beyond what hands can do are slowed down. Pure
+// logic, time is passed in; used by one thread at a time (Viewer).
 class FramePacer
 {
 public:
     void setFrameRate(int framesPerSecond) { m_frameRate = framesPerSecond; }
 
     // The earliest time at which the next frame may be encoded; in the past or present = now.
-    TimePoint nextFrameTime(bool afterInput, TimePoint now) const;
-    void frameSent(TimePoint now);
+    TimePoint nextFrameTime(FrameCause cause, TimePoint now) const;
+    void frameSent(FrameCause cause, TimePoint now);
 
 private:
     // When the frame after one sent now is due. A frame that came late by less than the tolerance does not
@@ -25,7 +33,8 @@ private:
 
     int m_frameRate = 25;
     TimePoint m_due{};
-    TimePoint m_inputDue{};
+    TimePoint m_motionDue{};
+    TimePoint m_pressDue{};
 };
 
 } // namespace orvane::cloud

@@ -97,7 +97,7 @@ void Viewer::acknowledge(std::uint64_t frameId, TimePoint now)
     observeQuality(now, ack->congested);
 }
 
-void Viewer::screenChanged(bool afterInput)
+void Viewer::screenChanged(FrameCause cause)
 {
     if (!isWatching()) {
         return;
@@ -106,7 +106,7 @@ void Viewer::screenChanged(bool afterInput)
         ++m_counters->framesDropped;
     }
     m_changed = true;
-    m_afterInput = m_afterInput || afterInput;
+    m_cause = std::max(m_cause, cause);
     m_refinements = 0;
 }
 
@@ -189,7 +189,7 @@ void Viewer::pump(TimePoint now, const PictureSource &source)
     if (!wanted && !isRefinementDue(now)) {
         return;
     }
-    if (wanted && !hurry && m_pacer.nextFrameTime(m_afterInput, now) > now) {
+    if (wanted && !hurry && m_pacer.nextFrameTime(m_cause, now) > now) {
         return;
     }
     if (!m_window.isOpen()) {
@@ -214,7 +214,7 @@ std::optional<TimePoint> Viewer::nextPump(TimePoint now) const
     std::optional<TimePoint> next;
     const auto consider = [&](TimePoint time) { next = next ? std::min(*next, time) : time; };
     if (wantsFrame() && m_window.isOpen()) {
-        consider(m_pacer.nextFrameTime(m_afterInput, now));
+        consider(m_pacer.nextFrameTime(m_cause, now));
     }
     if (!wantsFrame() && needsRefinement() && m_window.isEmpty()) {
         consider(refinementTime());
@@ -261,12 +261,12 @@ void Viewer::sendFrame(TimePoint now, const PictureSource &source, bool refineme
     m_refinements = refinement ? m_refinements + 1 : 0;
     m_psnr = unit.psnr;
     m_changed = false;
-    m_afterInput = false;
     m_keyFrameWanted = false;
     m_lastFrameAt = now;
     if (!refinement) {
-        m_pacer.frameSent(now);
+        m_pacer.frameSent(m_cause, now);
     }
+    m_cause = FrameCause::Animation;
     damageIfAsked(unit.data);
     const Level &level = m_announced->level;
     std::string message = server::videoFrame(

@@ -48,8 +48,8 @@ public:
 
     // Whether pictures are wanted at all.
     bool isWatching() const { return m_selection.castMode() != CastMode::Paused; }
-    // The device's screen has a new picture. `afterInput`: it shows the effect of input.
-    void screenChanged(bool afterInput);
+    // The device's screen has a new picture.
+    void screenChanged(FrameCause cause);
 
     // Announces the level in effect if it changed, and encodes and sends a picture if one is due.
     void pump(TimePoint now, const PictureSource &source);
@@ -90,7 +90,7 @@ private:
     TimePoint m_lastFrameAt{};
 
     bool m_changed = false;
-    bool m_afterInput = false;
+    FrameCause m_cause = FrameCause::Animation; // the most urgent of what m_changed stands for
     bool m_keyFrameWanted = false;
     double m_psnr = 0; // of the last picture
     bool m_settled = false; // the last refinement brought next to nothing

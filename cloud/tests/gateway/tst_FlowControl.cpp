@@ -273,8 +273,8 @@ TEST(FramePacer, KeepsToTheFrameRate)
     pacer.setFrameRate(25);
     int frames = 0;
     for (TimePoint now = Start; now < Start + 10s; now += 1ms) {
-        if (pacer.nextFrameTime(false, now) <= now) {
-            pacer.frameSent(now);
+        if (pacer.nextFrameTime(FrameCause::Animation, now) <= now) {
+            pacer.frameSent(FrameCause::Animation, now);
             ++frames;
         }
     }
@@ -287,8 +287,8 @@ TEST(FramePacer, FollowsAnAnimationOfTheSameRateWithoutDroppingFrames)
     pacer.setFrameRate(25);
     for (int i = 0; i < 500; ++i) {
         const TimePoint now = Start + 40ms * i + std::chrono::milliseconds(i % 7); // up to 6 ms late
-        EXPECT_LE(pacer.nextFrameTime(false, now), now) << i;
-        pacer.frameSent(now);
+        EXPECT_LE(pacer.nextFrameTime(FrameCause::Animation, now), now) << i;
+        pacer.frameSent(FrameCause::Animation, now);
     }
 }
 
@@ -296,26 +296,58 @@ TEST(FramePacer, DoesNotHoldBackWhatInputCaused)
 {
     FramePacer pacer;
     pacer.setFrameRate(5);
-    pacer.frameSent(Start);
-    EXPECT_GT(pacer.nextFrameTime(false, Start + 1ms), Start + 90ms);
-    EXPECT_EQ(pacer.nextFrameTime(true, Start + 1ms), Start + 1ms);
-    pacer.frameSent(Start + 1ms);
-    EXPECT_LE(pacer.nextFrameTime(true, Start + 5ms), Start + 20ms);
+    pacer.frameSent(FrameCause::Animation, Start);
+    EXPECT_GT(pacer.nextFrameTime(FrameCause::Animation, Start + 1ms), Start + 90ms);
+    EXPECT_EQ(pacer.nextFrameTime(FrameCause::Motion, Start + 1ms), Start + 1ms);
+    EXPECT_EQ(pacer.nextFrameTime(FrameCause::Press, Start + 1ms), Start + 1ms);
+    pacer.frameSent(FrameCause::Motion, Start + 1ms);
+    EXPECT_LE(pacer.nextFrameTime(FrameCause::Motion, Start + 5ms), Start + 20ms);
 }
 
-TEST(FramePacer, InputAtAThousandPerSecondGivesSixtyFrames)
+TEST(FramePacer, MotionAtAThousandPerSecondGivesSixtyFrames)
 {
     FramePacer pacer;
     pacer.setFrameRate(25);
     int frames = 0;
     for (TimePoint now = Start; now < Start + 1s; now += 1ms) {
-        if (pacer.nextFrameTime(true, now) <= now) {
-            pacer.frameSent(now);
+        if (pacer.nextFrameTime(FrameCause::Motion, now) <= now) {
+            pacer.frameSent(FrameCause::Motion, now);
             ++frames;
         }
     }
     EXPECT_GE(frames, 55);
     EXPECT_LE(frames, 65);
+}
+
+TEST(FramePacer, APressGoesAtOnceEvenInTheMiddleOfMotion)
+{
+    FramePacer pacer;
+    pacer.setFrameRate(25);
+    for (int i = 0; i < 1000; ++i) {
+        const TimePoint now = Start + 1ms * i;
+        const FrameCause cause = i % 50 == 0 ? FrameCause::Press : FrameCause::Motion;
+        const TimePoint due = pacer.nextFrameTime(cause, now);
+        if (cause == FrameCause::Press) {
+            EXPECT_EQ(due, now) << i;
+        }
+        if (due <= now) {
+            pacer.frameSent(cause, now);
+        }
+    }
+}
+
+TEST(FramePacer, AFloodOfPressesIsBounded)
+{
+    FramePacer pacer;
+    pacer.setFrameRate(25);
+    int frames = 0;
+    for (TimePoint now = Start; now < Start + 10s; now += 1ms) {
+        if (pacer.nextFrameTime(FrameCause::Press, now) <= now) {
+            pacer.frameSent(FrameCause::Press, now);
+            ++frames;
+        }
+    }
+    EXPECT_LE(frames, 640);
 }
 
 // --- TokenBucket ---

@@ -77,9 +77,9 @@ protected:
     {
         viewer.pump(now, [this]() -> const YuvPicture & { return picture; });
     }
-    void change(bool afterInput = false)
+    void change(FrameCause cause = FrameCause::Animation)
     {
-        viewer.screenChanged(afterInput);
+        viewer.screenChanged(cause);
         pump();
     }
     void acknowledgeAll() { viewer.acknowledge(link->video.size(), now); }
@@ -107,7 +107,7 @@ protected:
 
 TEST_F(ViewerTest, SendsNothingBeforeItIsAskedTo)
 {
-    change(true);
+    change(FrameCause::Press);
     EXPECT_TRUE(link->video.empty());
     EXPECT_FALSE(viewer.isWatching());
     EXPECT_FALSE(viewer.nextPump(now));
@@ -191,7 +191,7 @@ TEST_F(ViewerTest, PausedSendsNothingAndResumesWithAKeyFrame)
     acknowledgeAll();
     viewer.setCastMode(CastMode::Paused);
     now += 1s;
-    change(true);
+    change(FrameCause::Press);
     EXPECT_EQ(link->video.size(), 1U);
     EXPECT_FALSE(viewer.nextPump(now));
     viewer.setCastMode(CastMode::Full);
@@ -254,7 +254,7 @@ TEST_F(ViewerTest, InputShowsAtOnceAndAnimationKeepsToTheRate)
     EXPECT_EQ(link->video.size(), 2U); // not due
     ASSERT_TRUE(viewer.nextPump(now));
     EXPECT_LE(*viewer.nextPump(now), now + 40ms);
-    change(true);
+    change(FrameCause::Press);
     EXPECT_EQ(link->video.size(), 3U);
 }
 
@@ -321,7 +321,7 @@ TEST_F(ViewerTest, WithoutAcknowledgementsItStopsAndThenSendsTheNewest)
     for (int i = 0; i < 200; ++i) {
         now += 40ms;
         show(scrolled(busyScreen(2), i * 3));
-        change(true);
+        change(FrameCause::Press);
     }
     const std::size_t sent = link->video.size();
     std::size_t bytes = 0;
@@ -364,7 +364,7 @@ TEST_F(ViewerTest, RubbishAcknowledgementsChangeNothing)
     viewer.acknowledge(0, now);
     viewer.acknowledge(99, now);
     viewer.acknowledge(~std::uint64_t(0), now);
-    change(true);
+    change(FrameCause::Press);
     EXPECT_LE(link->video.size(), 2U);
     EXPECT_FALSE(link->ended);
 }
@@ -392,7 +392,7 @@ protected:
                 nextChange = now + 40ms;
                 ++shown;
                 show(scrolled(scenes[static_cast<std::size_t>(shown) % scenes.size()], shown * 8));
-                viewer.screenChanged(false);
+                viewer.screenChanged(FrameCause::Animation);
             }
             step(result);
         }
