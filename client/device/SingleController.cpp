@@ -36,6 +36,7 @@ constexpr QSize Smallest(Content.width() / 2, Content.height() / 2);
 constexpr int TitlePixels = 14;
 constexpr int TitleWidth = 160; // at most; a longer name is cut
 constexpr int DelayPixels = 12;
+constexpr int DelayWidth = 64; // holds "9999ms"
 constexpr int DelayMargin = 8;
 constexpr QRgb TitleColour = qRgb(255, 255, 255);
 constexpr int ToastSeconds = 3;
@@ -100,6 +101,8 @@ void SingleController::createTitle()
     m_delayLabel = new QLabel(titleBar());
     m_delayLabel->setObjectName(QStringLiteral("delayLabel"));
     m_delayLabel->setContentsMargins(0, 0, Look::DelayMargin, 0);
+    m_delayLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_delayLabel->setMinimumWidth(Look::DelayWidth); // the bar keeps still while the figure changes
     m_delayLabel->setStyleSheet(QStringLiteral("color: #C0C4CC; font-size: %1px;").arg(Look::DelayPixels));
     titleBar()->buttonLayout()->addWidget(m_delayLabel);
 }

@@ -425,6 +425,8 @@ void tst_SingleController::playInfoFromTheSdk()
     sdk.join();
     QTRY_COMPARE(delayLabel()->text(), QStringLiteral("17ms"));
     QVERIFY(delayLabel()->isVisible());
+    m_window->onPlayInfo(R"({"delayTime": 9999})");
+    QVERIFY(delayLabel()->width() >= delayLabel()->sizeHint().width());
 }
 
 void tst_SingleController::closingStopsTheStream()
