@@ -63,6 +63,7 @@ void createSecondUser(ServiceData &data)
 {
     const User second = data.users.create(secondAccount, "Second", secondPassword);
     std::vector<Device> devices;
+    devices.reserve(secondDeviceCount);
     for (int index = 0; index < secondDeviceCount; ++index)
         devices.push_back(newDevice(firstSecondServiceId, index, secondNames[static_cast<std::size_t>(index)],
             second.id, data.clocks.wall()));

@@ -45,7 +45,7 @@ Fields::Fields(QJsonObject values)
 
 QJsonValue Fields::required(const char *name) const
 {
-    const QJsonValue value = m_values.value(QLatin1String(name));
+    QJsonValue value = m_values.value(QLatin1String(name));
     if (value.isUndefined())
         throw ApiError(ApiCode::BadField, '"' + std::string(name) + "\" is missing");
     return value;

@@ -14,8 +14,8 @@ struct HttpServerOptions
     std::uint16_t port = 0; // 0 = any free port
     int workers = 4; // threads that handle requests
 
-    std::uint32_t maxHeaderBytes = 16 * 1024;
-    std::uint64_t maxBodyBytes = 1024 * 1024;
+    std::uint32_t maxHeaderBytes = 16'384;
+    std::uint64_t maxBodyBytes = 1'048'576;
     std::size_t maxConnections = 512; // more are closed at once
 
     std::chrono::milliseconds idleTimeout = std::chrono::seconds(60); // up to the end of a request's header

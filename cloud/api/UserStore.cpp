@@ -24,7 +24,7 @@ User UserStore::create(const std::string &account, const std::string &name, std:
         "INSERT INTO users (account, name, password_hash) VALUES (?, ?, ?) RETURNING id", account, name,
         hash);
     insert.step();
-    const User user{static_cast<std::int32_t>(insert.integer(0)), account, name};
+    User user{static_cast<std::int32_t>(insert.integer(0)), account, name};
     insert.run();
     transaction.commit();
     return user;

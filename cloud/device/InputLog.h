@@ -18,7 +18,7 @@ class InputLog
 public:
     static constexpr std::size_t MaxRecords = 20'000;
     // The oldest records go when their texts are larger than this together; the newest record always stays.
-    static constexpr std::size_t MaxBytes = 8 * 1024 * 1024;
+    static constexpr std::size_t MaxBytes = std::size_t{8} * 1024 * 1024;
 
     void add(
         std::chrono::steady_clock::time_point time, const std::string &session, const QJsonObject &event);

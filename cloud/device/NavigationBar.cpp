@@ -61,7 +61,7 @@ void NavigationBar::touchCancel()
     m_pointer = 0;
 }
 
-void NavigationBar::draw(QPainter &painter, QColor colour) const
+void NavigationBar::draw(QPainter &painter, const QColor &colour) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_pointer != 0) {

@@ -30,7 +30,7 @@ public:
     // The button that was clicked: pressed and left on it.
     std::optional<Button> touchUp(QPoint position);
     void touchCancel();
-    void draw(QPainter &painter, QColor colour) const;
+    void draw(QPainter &painter, const QColor &colour) const;
 
 private:
     QPoint centre(Button button) const;

@@ -29,7 +29,7 @@ QPointF middle(QPointF a, QPointF b)
     return (a + b) / 2;
 }
 
-QPen pen(QColor colour, qreal width)
+QPen pen(const QColor &colour, qreal width)
 {
     return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
@@ -90,9 +90,9 @@ void PaintApp::draw(QPainter &painter, const QRect &clip)
         drawHeader(painter);
         painter.restore();
     }
-    if (m_strokeCount == 0 && part.intersects(QRect(0, screen().height() / 2 - 30, screen().width(), 60))) {
-        theme::drawLine(painter, QRectF(0, screen().height() / 2 - 30, screen().width(), 60),
-            Qt::AlignHCenter, theme::font(28), QColor(theme::Slate),
+    const QRect hint(0, screen().height() / 2 - 30, screen().width(), 60);
+    if (m_strokeCount == 0 && part.intersects(hint)) {
+        theme::drawLine(painter, hint, Qt::AlignHCenter, theme::font(28), QColor(theme::Slate),
             QStringLiteral("Draw with one or more fingers"));
     }
 }

@@ -11,7 +11,7 @@ PushButton::PushButton(QString label)
     : m_label(std::move(label))
 { }
 
-void PushButton::draw(QPainter &painter, QColor colour) const
+void PushButton::draw(QPainter &painter, const QColor &colour) const
 {
     QColor background = colour;
     background.setAlpha(m_pointer != 0 ? 90 : 34);

@@ -19,7 +19,7 @@ public:
 
     void setRect(const QRect &rect) { m_rect = rect; }
     const QRect &rect() const { return m_rect; }
-    void draw(QPainter &painter, QColor colour) const;
+    void draw(QPainter &painter, const QColor &colour) const;
 
     // The caller invalidates the rectangle of a button whose state changed.
     // Takes the finger if it is on the button.

@@ -133,7 +133,7 @@ void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip) const
         painter.drawPath(outline);
     }
     if (m_cards.empty()) {
-        theme::drawLine(painter, QRectF(0, screen.height() / 2 - 60, screen.width(), 60), Qt::AlignHCenter,
+        theme::drawLine(painter, QRect(0, screen.height() / 2 - 60, screen.width(), 60), Qt::AlignHCenter,
             theme::font(30), QColor(255, 255, 255, 200), QStringLiteral("No apps are open"));
     } else {
         m_closeAll.draw(painter, QColor(theme::Paper));

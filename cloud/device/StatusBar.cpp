@@ -8,7 +8,7 @@ namespace orvane::cloud {
 
 namespace {
 
-void drawWireless(QPainter &painter, QPointF foot, QColor colour)
+void drawWireless(QPainter &painter, QPointF foot, const QColor &colour)
 {
     painter.setBrush(Qt::NoBrush);
     for (const qreal radius : {8.0, 14.0, 20.0}) {
@@ -21,7 +21,7 @@ void drawWireless(QPainter &painter, QPointF foot, QColor colour)
     painter.drawEllipse(foot - QPointF(0, 1.5), 2.6, 2.6);
 }
 
-void drawSignal(QPainter &painter, QPointF foot, QColor colour)
+void drawSignal(QPainter &painter, QPointF foot, const QColor &colour)
 {
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
@@ -31,7 +31,7 @@ void drawSignal(QPainter &painter, QPointF foot, QColor colour)
     }
 }
 
-void drawBattery(QPainter &painter, const QRectF &box, int percent, QColor colour)
+void drawBattery(QPainter &painter, const QRectF &box, int percent, const QColor &colour)
 {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colour, 2));
@@ -46,7 +46,8 @@ void drawBattery(QPainter &painter, const QRectF &box, int percent, QColor colou
 
 } // namespace
 
-void drawStatusBar(QPainter &painter, QSize screen, const QString &time, int batteryPercent, QColor colour)
+void drawStatusBar(
+    QPainter &painter, QSize screen, const QString &time, int batteryPercent, const QColor &colour)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     const QFont font = theme::font(23, true);

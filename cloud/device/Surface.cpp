@@ -4,6 +4,9 @@
 
 #include <libyuv/rotate_argb.h>
 
+#include <cstddef>
+#include <utility>
+
 namespace orvane::cloud {
 
 namespace {
@@ -69,15 +72,19 @@ void Surface::turnIntoFrame(const QRect &content)
 {
     const int sourceStride = m_content.bytesPerLine();
     const int targetStride = m_frame.bytesPerLine();
+    const auto pixelOf = [](QPoint place, int stride) {
+        return static_cast<std::ptrdiff_t>(place.y()) * stride
+            + static_cast<std::ptrdiff_t>(place.x()) * BytesPerPixel;
+    };
     const uchar *source = m_content.constBits();
     uchar *destination = m_frame.bits();
     for (int y = content.top(); y <= content.bottom(); y += TurnTile) {
         for (int x = content.left(); x <= content.right(); x += TurnTile) {
             const QRect tile = QRect(x, y, TurnTile, TurnTile) & content;
             const QRect target = toFrame(tile);
-            libyuv::ARGBRotate(source + tile.top() * sourceStride + tile.left() * BytesPerPixel, sourceStride,
-                destination + target.top() * targetStride + target.left() * BytesPerPixel, targetStride,
-                tile.width(), tile.height(), libyuv::kRotate90); // fails only without pixels
+            libyuv::ARGBRotate(source + pixelOf(tile.topLeft(), sourceStride), sourceStride,
+                destination + pixelOf(target.topLeft(), targetStride), targetStride, tile.width(),
+                tile.height(), libyuv::kRotate90); // fails only without pixels
         }
     }
 }

@@ -18,7 +18,7 @@ QFont font(int pixelSize, bool bold)
 }
 
 void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment horizontal, const QFont &font,
-    QColor colour, const QString &text)
+    const QColor &colour, const QString &text)
 {
     const QString fitting = QFontMetricsF(font).elidedText(text, Qt::ElideRight, rect.width());
     painter.setFont(font);
@@ -26,13 +26,14 @@ void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment horizontal, c
     painter.drawText(rect, static_cast<int>(horizontal) | Qt::AlignVCenter | Qt::TextSingleLine, fitting);
 }
 
-void drawTitle(QPainter &painter, const QString &title, QColor colour)
+void drawTitle(QPainter &painter, const QString &title, const QColor &colour)
 {
     drawLine(painter, QRectF(Margin, StatusBarHeight, 280, HeaderHeight), Qt::AlignLeft, font(40, true),
         colour, title);
 }
 
-void drawPill(QPainter &painter, const QRectF &rect, QColor background, QColor colour, const QString &text)
+void drawPill(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &colour,
+    const QString &text)
 {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);

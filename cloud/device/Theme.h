@@ -29,10 +29,11 @@ inline constexpr int Margin = 32;
 QFont font(int pixelSize, bool bold = false);
 // One line of text inside `rect`, vertically centred, elided at its end if it does not fit.
 void drawLine(QPainter &painter, const QRectF &rect, Qt::Alignment horizontal, const QFont &font,
-    QColor colour, const QString &text);
+    const QColor &colour, const QString &text);
 // The title of an app in its header line.
-void drawTitle(QPainter &painter, const QString &title, QColor colour);
+void drawTitle(QPainter &painter, const QString &title, const QColor &colour);
 // A label with round ends that fills the rectangle.
-void drawPill(QPainter &painter, const QRectF &rect, QColor background, QColor colour, const QString &text);
+void drawPill(QPainter &painter, const QRectF &rect, const QColor &background, const QColor &colour,
+    const QString &text);
 
 } // namespace orvane::cloud::theme

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <random>
 
 namespace orvane::cloud {
@@ -46,7 +47,7 @@ qreal ridge(const HillStyle &style, int x)
         + 0.15 * std::sin((5 * style.waves + 2) * phase + 1);
 }
 
-void drawTree(QPainter &painter, QPointF foot, qreal height, QColor colour)
+void drawTree(QPainter &painter, QPointF foot, qreal height, const QColor &colour)
 {
     painter.setBrush(colour);
     painter.drawRect(QRectF(foot.x() - height * 0.04, foot.y() - height * 0.3, height * 0.08, height * 0.34));
@@ -65,7 +66,7 @@ QImage transparent(QSize size)
     return image;
 }
 
-QImage makeBalloon(QColor light, QColor dark, int width)
+QImage makeBalloon(const QColor &light, const QColor &dark, int width)
 {
     QImage image = transparent({width, width * 3 / 2});
     QPainter painter(&image);
@@ -245,11 +246,9 @@ void VideoScene::drawBalloons(QPainter &painter, int frame) const
     for (std::size_t i = 0; i < m_balloons.size(); ++i) {
         const QImage &balloon = m_balloons.at(i);
         const int way = m_screen.width() + 2 * balloon.width();
-        const int speed = i == 0 ? 3 : 2;
-        const auto x
-            = static_cast<int>(
-                  (static_cast<std::int64_t>(frame) * speed + way / 3 * static_cast<int>(i + 1)) % way)
-            - balloon.width();
+        const std::int64_t start = static_cast<std::int64_t>(i + 1) * way / 3;
+        const std::int64_t speed = i == 0 ? 3 : 2;
+        const int x = static_cast<int>((frame * speed + start) % way) - balloon.width();
         const qreal swing = std::sin(Turn * (frame % 250) / 250.0 + static_cast<qreal>(i) * 2);
         const int y
             = static_cast<int>(m_screen.height() * (i == 0 ? 0.27 : 0.16) + swing * m_screen.height() * 0.04);

@@ -111,7 +111,7 @@ struct VirtualDevice::Impl
     bool cameraWanted = false;
 };
 
-VirtualDevice::VirtualDevice(std::string padCode, std::string name, WallClock wallClock)
+VirtualDevice::VirtualDevice(std::string padCode, const std::string &name, WallClock wallClock)
     : m_impl(std::make_unique<Impl>(*this, std::move(padCode), name, std::move(wallClock)))
 { }
 

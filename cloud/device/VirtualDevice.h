@@ -41,7 +41,8 @@ public:
 
     // `padCode`: the device's code; `name`: shown on its home screen; both UTF-8. `wallClock`: date and time
     // for the status bar and the home screen, read whenever the device is awake anyway.
-    VirtualDevice(std::string padCode, std::string name, WallClock wallClock = &QDateTime::currentDateTime);
+    VirtualDevice(
+        std::string padCode, const std::string &name, WallClock wallClock = &QDateTime::currentDateTime);
     ~VirtualDevice();
     VirtualDevice(const VirtualDevice &) = delete;
     VirtualDevice &operator=(const VirtualDevice &) = delete;

@@ -13,7 +13,7 @@ namespace orvane::cloud {
 
 namespace {
 
-void glow(QPainter &painter, QPointF centre, qreal radius, QColor colour)
+void glow(QPainter &painter, QPointF centre, qreal radius, const QColor &colour)
 {
     QRadialGradient gradient(centre, radius);
     gradient.setColorAt(0, colour);

@@ -73,7 +73,7 @@ int numberOption(const QCommandLineParser &parser, const QString &name, int high
 
 std::string addressOption(const QCommandLineParser &parser)
 {
-    const std::string text = parser.value(QStringLiteral("listen")).toStdString();
+    std::string text = parser.value(QStringLiteral("listen")).toStdString();
     boost::system::error_code error;
     const boost::asio::ip::address address = boost::asio::ip::make_address(text, error);
     // Clients are sent to this address, so it must be one that can be connected to.

@@ -39,6 +39,7 @@ protected:
     static std::vector<Seen> seen(const std::vector<FingerEvent> &events)
     {
         std::vector<Seen> result;
+        result.reserve(events.size());
         for (const FingerEvent &event : events) {
             result.push_back({event.phase, event.id, event.position});
         }
@@ -47,6 +48,7 @@ protected:
     std::vector<Seen> frame(int action, const std::vector<QPoint> &points, const std::string &session = "one")
     {
         std::vector<TouchPoint> list;
+        list.reserve(points.size());
         for (const QPoint &point : points) {
             list.push_back({point.x(), point.y(), 1});
         }

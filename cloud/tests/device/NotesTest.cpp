@@ -196,10 +196,11 @@ TEST_F(NotesTest, keepsTheTextWhileTheScreenTurnsAndOtherAppsAreInFront)
 
 TEST_F(NotesTest, hugeTextIsCutAtTheLimit)
 {
-    type(std::string(1024 * 1024, 'x'));
+    constexpr std::size_t LongText = std::size_t{1024} * 1024;
+    type(std::string(LongText, 'x'));
     EXPECT_EQ(noteText().size(), NotesApp::MaxLength);
     device.takeDirty();
-    type(std::string(1024 * 1024, '\b'));
+    type(std::string(LongText, '\b'));
     EXPECT_EQ(noteText(), "");
     type("after");
     EXPECT_EQ(noteText(), "after");
