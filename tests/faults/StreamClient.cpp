@@ -1,6 +1,11 @@
 #include "StreamClient.h"
 
+#include "swplay/VideoFrame.h"
+
 #include <QJsonDocument>
+
+#include <algorithm>
+#include <chrono>
 
 namespace {
 // The device window's table of levels.
@@ -15,10 +20,22 @@ VideoLevel levels[] = {
 };
 } // namespace
 
+int StreamClient::Display::render(VideoFrame *frame)
+{
+    using namespace std::chrono;
+    // The gateway stamps pictures with this machine's steady clock.
+    const auto now = duration_cast<microseconds>(steady_clock::now().time_since_epoch()).count();
+    worstDelayMs = std::max(worstDelayMs.load(), static_cast<int>((now - frame->captureUs) / 1000));
+    return VideoDisplayWinBase::render(frame);
+}
+
 void StreamClient::Display::onFrameArrival()
 {
+    const qint64 now = clock.elapsed();
+    if (lastPictureMs >= 0)
+        worstGapMs = std::max(worstGapMs.load(), static_cast<int>(now - lastPictureMs));
     ++pictures;
-    lastPictureMs = clock.elapsed();
+    lastPictureMs = now;
 }
 
 void StreamClient::Listener::onConnected()
@@ -73,6 +90,12 @@ QVector<QJsonObject> StreamClient::streamInfos() const
 {
     const std::lock_guard<std::mutex> guard(m_listener.lock);
     return m_listener.infos;
+}
+
+void StreamClient::forgetWorst()
+{
+    m_display.worstDelayMs = 0;
+    m_display.worstGapMs = 0;
 }
 
 int StreamClient::middleColour()

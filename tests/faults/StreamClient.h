@@ -44,6 +44,11 @@ public:
     qint64 lastPictureMs() const { return m_display.lastPictureMs; }
     qint64 lastReconnectMs() const { return m_listener.lastReconnectMs; }
     qint64 nowMs() const { return m_clock.elapsed(); }
+    // Of every picture since the last call of forgetWorst: the longest time from its capture at the gateway
+    // to its arrival here, and the longest time between two. Exact, since both ends read one machine's clock.
+    int worstDelayMs() const { return m_display.worstDelayMs; }
+    int worstGapMs() const { return m_display.worstGapMs; }
+    void forgetWorst();
     // Every stream information so far, oldest first.
     QVector<QJsonObject> streamInfos() const;
     // Mean colour of the newest picture's middle, as 0xRRGGBB; -1 while there is none.
@@ -55,10 +60,13 @@ private:
         explicit Display(const QElapsedTimer &clockToUse)
             : clock(clockToUse)
         { }
+        int render(VideoFrame *frame) override;
         void onFrameArrival() override;
 
         const QElapsedTimer &clock;
         std::atomic<int> pictures{0};
+        std::atomic<int> worstDelayMs{0};
+        std::atomic<int> worstGapMs{0};
         std::atomic<qint64> lastPictureMs{-1};
     };
     struct Listener : SWDataSourceListener

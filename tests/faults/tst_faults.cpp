@@ -36,6 +36,7 @@ private slots:
     void longDelayWorks();
     void narrowLinkLowersTheLevelAndRecovers();
     void stallsOfLossKeepTheDelayBounded();
+    void poorLinkLowersTheLevelAndRecovers();
 
 private:
     StreamClient::Session apply(quint16 port = 0);
@@ -342,18 +343,17 @@ void TestFaults::narrowLinkLowersTheLevelAndRecovers()
         QVERIFY(sessionStats().value(QLatin1String("automatic")).toBool());
         QCOMPARE(row(), 1);
 
-        QTest::qWait(3000);
-        qInfo() << "bytes in 3 s" << relay.bytesDown() << row();
         relay.setRate(1000);
         waitUntil(
             QStringLiteral("the level steps down to what fits"), [&] { return row() >= 4; }, 10000);
         const int settled = client->streamInfos().size() + 2;
         const int pictures = client->pictures();
+        client->forgetWorst();
         waitUntil(
             QStringLiteral("8 s at 1 Mbit/s"), [&] { return client->streamInfos().size() >= settled + 8; },
             20000);
-        const int delay = largestDelay(*client, settled);
-        qInfo("at 1 Mbit/s: row %d, largest delay %d ms, %d pictures", row(), delay,
+        const int delay = client->worstDelayMs();
+        qInfo("at 1 Mbit/s: row %d, longest delay of a picture %d ms, %d pictures", row(), delay,
             client->pictures() - pictures);
         QVERIFY2(delay <= 1500, qPrintable(QString::number(delay)));
         QVERIFY(client->pictures() - pictures > 40);
@@ -371,18 +371,68 @@ void TestFaults::stallsOfLossKeepTheDelayBounded()
         ShapingRelay relay(m_service->gatewayPort());
         const auto client = openVideo(relay.port());
         relay.setStalls(3000, 500);
+        client->forgetWorst();
         const int infos = client->streamInfos().size();
+        int lowestRow = 1;
         waitUntil(
-            QStringLiteral("10 s with stalls"), [&] { return client->streamInfos().size() >= infos + 10; },
-            25000);
-        const int delay = largestDelay(*client, infos);
-        qInfo("largest delay with stalls of 500 ms: %d ms", delay);
-        QVERIFY2(delay <= 1200, qPrintable(QString::number(delay)));
+            QStringLiteral("15 s with stalls"),
+            [&] {
+                lowestRow = qMax(lowestRow, sessionStats().value(QLatin1String("level_row")).toInt());
+                return client->streamInfos().size() >= infos + 15;
+            },
+            35000);
+        const int delay = client->worstDelayMs();
+        const int gap = client->worstGapMs();
+        qInfo(
+            "stalls of 500 ms: longest delay of a picture %d ms, longest time between two %d ms, lowest row "
+            "%d",
+            delay, gap, lowestRow);
+        // What was on its way when the stall began comes at its end, and no backlog after it.
+        QVERIFY2(delay <= 1000, qPrintable(QString::number(delay)));
+        QVERIFY2(gap <= 1000, qPrintable(QString::number(gap)));
         QCOMPARE(client->reconnectAttempts(), 0);
         relay.setStalls(0, 0);
         waitUntil(
             QStringLiteral("the level is back up"),
             [this] { return sessionStats().value(QLatin1String("level_row")).toInt() == 1; }, 90000);
+    });
+}
+
+// Long, narrow and lossy at once.
+void TestFaults::poorLinkLowersTheLevelAndRecovers()
+{
+    e2e::steps([&] {
+        ShapingRelay relay(m_service->gatewayPort());
+        const auto client = openVideo(relay.port());
+        const auto row = [this] { return sessionStats().value(QLatin1String("level_row")).toInt(); };
+        QCOMPARE(row(), 1);
+        relay.setDelay(100);
+        relay.setRate(1000);
+        relay.setStalls(3000, 500);
+        waitUntil(
+            QStringLiteral("the level steps down to what fits"), [&] { return row() >= 4; }, 15000);
+        const int settled = client->streamInfos().size() + 3;
+        waitUntil(
+            QStringLiteral("the queue at the higher level has passed"),
+            [&] { return client->streamInfos().size() >= settled; }, 10000);
+        client->forgetWorst();
+        const int pictures = client->pictures();
+        waitUntil(
+            QStringLiteral("12 s on the poor link"),
+            [&] { return client->streamInfos().size() >= settled + 12; }, 30000);
+        const int delay = client->worstDelayMs();
+        qInfo("poor link: row %d, longest delay of a picture %d ms, longest time between two %d ms, %d "
+              "pictures",
+            row(), delay, client->worstGapMs(), client->pictures() - pictures);
+        QVERIFY2(delay <= 1500, qPrintable(QString::number(delay)));
+        QVERIFY(client->pictures() - pictures > 40);
+        QCOMPARE(client->reconnectAttempts(), 0);
+
+        relay.setDelay(0);
+        relay.setRate(0);
+        relay.setStalls(0, 0);
+        waitUntil(
+            QStringLiteral("the level is back up"), [&] { return row() == 1; }, 90000);
     });
 }
 
