@@ -403,10 +403,10 @@ void TestFaults::poorLinkLowersTheLevelAndRecovers()
 {
     e2e::steps([&] {
         ShapingRelay relay(m_service->gatewayPort());
+        relay.setDelay(100);
         const auto client = openVideo(relay.port());
         const auto row = [this] { return sessionStats().value(QLatin1String("level_row")).toInt(); };
         QCOMPARE(row(), 1);
-        relay.setDelay(100);
         relay.setRate(1000);
         relay.setStalls(3000, 500);
         waitUntil(
@@ -428,7 +428,6 @@ void TestFaults::poorLinkLowersTheLevelAndRecovers()
         QVERIFY(client->pictures() - pictures > 40);
         QCOMPARE(client->reconnectAttempts(), 0);
 
-        relay.setDelay(0);
         relay.setRate(0);
         relay.setStalls(0, 0);
         waitUntil(
