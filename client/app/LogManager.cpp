@@ -5,6 +5,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 #include <atomic>
 #include <cstdlib>
@@ -79,6 +80,12 @@ void LogManager::write(QtMsgType type, const QString &text)
     const QLatin1String tag = tagOf(type);
     if (tag.isEmpty())
         return;
+    // A message about what happened inside this function, as the crash handler writes it, would wait for
+    // itself.
+    static thread_local bool writing = false;
+    if (writing)
+        return;
+    const QScopedValueRollback<bool> mark(writing, true);
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_file.isOpen()) {
         const QString time = m_clock().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss.zzz"));

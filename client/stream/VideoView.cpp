@@ -255,23 +255,23 @@ void VideoView::appendHeldPoints(QVector<int> &xs, QVector<int> &ys, const QSize
     }
 }
 
-// Returns false, having sent nothing, while there is no session.
-bool VideoView::sendTouch(int action)
+// Sends nothing while there is no session.
+void VideoView::sendTouch(int action)
 {
     const std::optional<QSize> remote = remoteSize();
     if (!remote)
-        return false;
+        return;
     QVector<int> xs;
     QVector<int> ys;
     appendHeldPoints(xs, ys, *remote);
     emit touchEvent(action, xs, ys);
-    return true;
 }
 
+// Other devices follow also while this one has no session.
 void VideoView::sendMouse(int action)
 {
-    if (sendTouch(action))
-        emit subControlTouchEvent(action, m_percentX, m_percentY);
+    sendTouch(action);
+    emit subControlTouchEvent(action, m_percentX, m_percentY);
 }
 
 void VideoView::mousePressEvent(QMouseEvent *event)

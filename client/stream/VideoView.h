@@ -125,7 +125,7 @@ private:
     void setPosition(const QPointF &position);
     std::optional<QSize> remoteSize() const;
     void appendHeldPoints(QVector<int> &xs, QVector<int> &ys, const QSize &remote) const;
-    bool sendTouch(int action);
+    void sendTouch(int action);
     bool sendGesture(int action);
     void sendMouse(int action);
     void liftFinger();

@@ -1,5 +1,6 @@
 #include "web/Context.h"
 
+#include <limits>
 #include <utility>
 
 Context::Context(QJsonObject object)
@@ -14,15 +15,21 @@ QVariant Context::value(const QString &key) const
 
 int Context::intValue(const QString &key) const
 {
-    return m_object.value(key).toInt();
+    const QVariant found = value(key);
+    // The conversion of a number that no int holds is undefined.
+    const double number = found.toDouble();
+    constexpr double half = 0.5;
+    const bool fits
+        = number > std::numeric_limits<int>::min() - half && number < std::numeric_limits<int>::max() + half;
+    return fits ? found.toInt() : 0;
 }
 
 QString Context::stringValue(const QString &key) const
 {
-    return m_object.value(key).toString();
+    return value(key).toString();
 }
 
 QString Context::callback() const
 {
-    return stringValue(QStringLiteral("callback"));
+    return m_object.value(QLatin1String("callback")).toString();
 }

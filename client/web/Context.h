@@ -14,9 +14,10 @@ public:
 
     // The member's value, or an invalid variant when there is no such member.
     QVariant value(const QString &key) const;
-    // The member as an integer; 0 when it is missing or not a number that an int can hold.
+    // The member as an integer: a number is rounded, a text is read as a whole number. 0 when it is missing
+    // or nothing that an int can hold.
     int intValue(const QString &key) const;
-    // The member as text; empty when it is missing or not a string.
+    // The member as text, a number as its digits; empty when it is missing, or an object or array.
     QString stringValue(const QString &key) const;
     // Name of the page's function that receives the result; empty when the page wants none.
     QString callback() const;

@@ -57,6 +57,7 @@ private slots:
     void oldFiles();
     void oldFilesByCalendarDay();
     void appends();
+    void messageFromInsideTheLogDoesNotWaitForItself();
     void staysWithItsFileOverMidnight();
     void missingDirectory();
     void wholeLinesFromManyThreads();
@@ -140,6 +141,29 @@ void TestLogManager::oldFilesByCalendarDay()
     LogManager log(dir.path(), always(now));
     QVERIFY(!QFileInfo::exists(dir.filePath(QStringLiteral("a.log"))));
     QVERIFY(QFileInfo::exists(dir.filePath(QStringLiteral("b.log"))));
+}
+
+// As after a crash in the middle of a message, about which the crash handler writes on the same thread.
+void TestLogManager::messageFromInsideTheLogDoesNotWaitForItself()
+{
+    QTemporaryDir dir;
+    LogManager *log = nullptr;
+    bool nested = false;
+    const auto clock = [&] {
+        if (log && !nested) {
+            nested = true;
+            log->write(QtDebugMsg, QStringLiteral("inner"));
+        }
+        return noon;
+    };
+    LogManager manager(dir.path(), clock);
+    log = &manager;
+    manager.write(QtDebugMsg, QStringLiteral("outer"));
+    manager.write(QtDebugMsg, QStringLiteral("next"));
+    QVERIFY(nested);
+    QCOMPARE(contentOf(dir.filePath(QStringLiteral("2024-03-07.log"))),
+        QByteArray("2024-03-07 12:00:00.000 [DEBUG]: outer\n"
+                   "2024-03-07 12:00:00.000 [DEBUG]: next\n"));
 }
 
 void TestLogManager::appends()

@@ -47,6 +47,7 @@ private slots:
     void signalAndSlotOrder();
     void initialState();
     void clickSendsOnePointAndThenNone();
+    void otherDevicesFollowWithoutASession();
     void positions_data();
     void positions();
     void coordinatesAreTruncated();
@@ -211,6 +212,13 @@ void tst_VideoView::clickSendsOnePointAndThenNone()
     QVERIFY(m_view->hasFocus());
 }
 
+void tst_VideoView::otherDevicesFollowWithoutASession()
+{
+    m_view->setStreamController({});
+    click({90, 320});
+    QCOMPARE(m_sent, (QStringList{"sub 0: 0.25,0.5", "sub 1: 0.25,0.5"}));
+}
+
 void tst_VideoView::positions_data()
 {
     QTest::addColumn<ScreenOrientation>("orientation");
@@ -340,6 +348,7 @@ void tst_VideoView::touchPointSourceMayGo()
 
 void tst_VideoView::nothingIsSentWithoutSession()
 {
+    disconnect(m_view, &VideoView::subControlTouchEvent, nullptr, nullptr); // for the others, see above
     m_controller->stopStream();
     click({90, 160});
     m_controller.reset();

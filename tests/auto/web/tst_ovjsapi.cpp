@@ -155,8 +155,12 @@ void TestOvJsApi::numbersAndTexts_data()
                               << QVariantList{QStringLiteral("jp")};
     QTest::newRow("language missing")
         << R"({"jsApiName":"setLanguage"})" << language << QVariantList{QString()};
+    QTest::newRow("size as text and fraction")
+        << R"({"jsApiName":"setWindowSize","width":"800","height":600.5})" << size << QVariantList{800, 601};
+    QTest::newRow("language as a number")
+        << R"({"jsApiName":"setLanguage","lang":4})" << language << QVariantList{QStringLiteral("4")};
     QTest::newRow("language of the wrong type")
-        << R"({"jsApiName":"setLanguage","lang":4})" << language << QVariantList{QString()};
+        << R"({"jsApiName":"setLanguage","lang":["en"]})" << language << QVariantList{QString()};
 }
 
 void TestOvJsApi::numbersAndTexts()
