@@ -36,6 +36,10 @@ public:
     // How the stream is reached; filled by the service's answer.
     const stream::StreamingData &streamingData() const { return m_streamingData; }
 
+    // Minutes without input after which the stream pauses.
+    void setStandbyTime(int minutes) { m_standbyMinutes = minutes; }
+    int standbyTime() const { return m_standbyMinutes; }
+
     // Asks the service for the device and starts the stream when it is granted. A refusal is shown and
     // logged; the window stays on its loading page then, and it may be asked again.
     void applyDevice();
@@ -68,6 +72,7 @@ private:
 
     QString m_serviceId;
     QString m_deviceName;
+    int m_standbyMinutes = 5;
     stream::StreamingData m_streamingData;
     HttpHelper *m_httpHelper
         = nullptr; // child, made by the first request; its end drops the requests under way

@@ -5,10 +5,10 @@
 #include "base/AppPaths.h"
 #include "net/HttpHelper.h"
 #include "swplay/SWRuntime.h"
-#include "web/CenterOnScreen.h"
 #include "web/OvMainWindowJsApi.h"
 #include "web/OvWebContainer.h"
 #include "web/OvWebView.h"
+#include "web/WindowPlacement.h"
 #include "widgets/OvTitleBarBase.h"
 
 #include <QCloseEvent>
@@ -16,10 +16,8 @@
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QProcess>
-#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QSysInfo>
@@ -31,7 +29,6 @@ namespace {
 namespace Contract {
 constexpr QSize loginSize(300, 488);
 constexpr QSize minimumWorkingSize(1000, 720);
-constexpr int maximizedOverlap = 3; // how far a maximised window reaches beyond the available area
 constexpr int runtimeLogLevel = 1;
 const char startLanguage[] = "en";
 } // namespace Contract
@@ -48,14 +45,6 @@ bool isWindows7()
 #else
     return false;
 #endif
-}
-
-QRect availableGeometryAt(const QPoint &pos)
-{
-    const QScreen *screen = QGuiApplication::screenAt(pos);
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
-    return screen ? screen->availableGeometry() : QRect();
 }
 
 } // namespace
@@ -75,7 +64,7 @@ OvMainWindow::OvMainWindow(QWidget *parent)
     setWindowIcon(QIcon(QStringLiteral(":/icon/orvane.ico")));
     setContentSize(Contract::loginSize);
     setResizeLocked(true);
-    updateWindowSize();
+    OvMainWindow::updateWindowSize(); // nothing derives from this window
     setBackgroundColor(Qt::transparent);
 
     createWebContainer();
@@ -118,6 +107,7 @@ void OvMainWindow::connectJsApi()
     connect(m_jsApi, &OvJsApi::sigMinimizeWindow, this, &OvMainWindow::onMinimizeWindow);
     connect(m_jsApi, &OvJsApi::sigMaximizeWindow, this, &OvMainWindow::onMaximizeWindow);
     connect(m_jsApi, &OvJsApi::sigRestoreWindow, this, &OvMainWindow::onRestoreWindow);
+    connect(m_jsApi, &OvMainWindowJsApi::sigLogout, this, &OvMainWindow::onLogout);
     connect(m_jsApi, &OvJsApi::sigSetLanguage, this, &OvMainWindow::onSetLanguage);
 }
 
@@ -157,13 +147,14 @@ void OvMainWindow::onSetWindowSize(int width, int height)
     setMinimumSize(Contract::minimumWorkingSize);
     setContentSize(QSize(width, height).boundedTo({QWIDGETSIZE_MAX / 2, QWIDGETSIZE_MAX / 2}));
     updateWindowSize();
+    m_drag.reset();
     centerOnScreen(this);
     m_maximizeAllowed = true;
 }
 
 void OvMainWindow::onMoveWindow(int x, int y)
 {
-    move(pos() + QPoint(x, y));
+    m_drag.moveBy(QPoint(x, y));
 }
 
 void OvMainWindow::onMaximizeWindow()
@@ -171,10 +162,10 @@ void OvMainWindow::onMaximizeWindow()
     if (m_pageMaximized)
         return;
     m_pageMaximized = true;
+    m_drag.reset();
     m_normalPos = pos();
     m_normalSize = contentSize();
-    constexpr int overlap = Contract::maximizedOverlap;
-    const QRect target = availableGeometryAt(pos()).adjusted(-overlap, -overlap, overlap, overlap);
+    const QRect target = maximizedGeometry(pos());
     setContentSize(target.size());
     updateWindowSize();
     setGeometry(target);
@@ -185,9 +176,23 @@ void OvMainWindow::onRestoreWindow()
     if (!m_pageMaximized)
         return;
     m_pageMaximized = false;
+    m_drag.reset();
     setContentSize(m_normalSize);
     move(m_normalPos);
     updateWindowSize();
+}
+
+void OvMainWindow::onLogout()
+{
+    m_webContainer->load(frontEndUrl());
+    m_pageMaximized = false;
+    setMinimumSize(Contract::loginSize);
+    setResizeLocked(true);
+    setContentSize(Contract::loginSize);
+    updateWindowSize();
+    m_drag.reset();
+    centerOnScreen(this);
+    m_maximizeAllowed = false;
 }
 
 void OvMainWindow::onMaximumShortcutActivated()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "web/RelativeMove.h"
 #include "widgets/OvWindowBase.h"
 
 #include <QRect>
@@ -39,10 +40,14 @@ public slots:
     void onMinimizeWindow();
     void onMaximizeWindow();
     void onRestoreWindow();
+    // Back to the sign-in page and its size.
+    void onLogout();
     void onSetLanguage(const QString &lang);
     // Starts a downloaded installer: at once, closing the client, or when the client ends.
     void onInstallNewVersionApp(const QString &filePath, bool delayInstall);
     void onMaximumShortcutActivated();
+    // Without behaviour: every front end that comes with the client fits it.
+    void checkH5Version() { }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -57,6 +62,7 @@ private:
     OvWebContainer *m_webContainer = nullptr; // child
     OvMainWindowJsApi *m_jsApi = nullptr; // child of the web view
     const int m_normalShadowMargin; // pixels
+    RelativeMove m_drag{this};
     bool m_pageMaximized = false;
     bool m_maximizeAllowed = false; // false before sign-in
     QPoint m_normalPos; // before maximising

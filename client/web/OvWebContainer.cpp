@@ -16,17 +16,24 @@
 
 namespace {
 
+// Adds the settings to window.orvane before a page's own scripts run, whichever such script comes first.
+QWebEngineScript settingsScript(const QString &name, const QJsonObject &settings)
+{
+    QWebEngineScript script;
+    script.setName(name);
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setSourceCode(
+        QStringLiteral("window.orvane = Object.freeze(Object.assign({}, window.orvane, %1));")
+            .arg(QString::fromUtf8(QJsonDocument(settings).toJson(QJsonDocument::Compact))));
+    return script;
+}
+
 QWebEngineProfile *createProfile()
 {
     auto *profile = new QWebEngineProfile(QStringLiteral("orvane"));
-    const QJsonObject settings{{QStringLiteral("apiBaseUrl"), HttpHelper::apiBaseUrl()}};
-    QWebEngineScript script;
-    script.setName(QStringLiteral("orvane"));
-    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
-    script.setWorldId(QWebEngineScript::MainWorld);
-    script.setSourceCode(QStringLiteral("window.orvane = Object.freeze(%1);")
-                             .arg(QString::fromUtf8(QJsonDocument(settings).toJson(QJsonDocument::Compact))));
-    profile->scripts()->insert(script);
+    profile->scripts()->insert(
+        settingsScript(QStringLiteral("orvane"), {{QStringLiteral("apiBaseUrl"), HttpHelper::apiBaseUrl()}}));
     return profile;
 }
 
@@ -60,6 +67,11 @@ OvWebContainer::OvWebContainer(QWidget *parent)
 void OvWebContainer::load(const QString &url)
 {
     m_webView->setUrl(QUrl(url));
+}
+
+void OvWebContainer::addPageSettings(const QJsonObject &settings)
+{
+    m_webView->page()->scripts().insert(settingsScript(QStringLiteral("orvane page"), settings));
 }
 
 void OvWebContainer::onLoadFinished(bool bOk)

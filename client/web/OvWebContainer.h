@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonObject>
 #include <QWidget>
 
 class OvWebView;
@@ -18,6 +19,8 @@ public:
     OvWebView *webView() const { return m_webView; }
     // Loads the URL as it stands.
     void load(const QString &url);
+    // Adds members to window.orvane, for the pages that this container loads from now on.
+    void addPageSettings(const QJsonObject &settings);
 
     // The client's one browser profile, made on first use and kept until the process ends. Its pages find the
     // root of the service's API in window.orvane.apiBaseUrl.

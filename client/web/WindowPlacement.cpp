@@ -1,4 +1,4 @@
-#include "web/CenterOnScreen.h"
+#include "web/WindowPlacement.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -13,4 +13,14 @@ void centerOnScreen(QWidget *widget)
     }
     widget->raise();
     widget->repaint();
+}
+
+QRect maximizedGeometry(const QPoint &pos)
+{
+    constexpr int overlap = 3;
+    const QScreen *screen = QGuiApplication::screenAt(pos);
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    const QRect available = screen ? screen->availableGeometry() : QRect();
+    return available.adjusted(-overlap, -overlap, overlap, overlap);
 }

@@ -23,6 +23,8 @@ constexpr QRgb background = qRgba(245, 247, 250, 255);
 constexpr QRgb mouseCatcher = qRgba(0, 0, 0, 1); // as good as invisible, yet mouse events arrive on it
 } // namespace Look
 
+constexpr int FollowIntervalMs = 250;
+
 } // namespace
 
 OvWindowBase::OvWindowBase(QWidget *parent)
@@ -57,10 +59,15 @@ bool OvWindowBase::isRoundingOf(const QSize &target) const
     return fractional && qAbs(off.width()) <= 1 && qAbs(off.height()) <= 1;
 }
 
-void OvWindowBase::updateWindowSize()
+QSize OvWindowBase::wantedWindowSize() const
 {
     const int margins = 2 * m_shadowMargin;
-    const QSize target = (contentSize() + QSize(margins, margins)).expandedTo(minimumSize());
+    return (contentSize() + QSize(margins, margins)).expandedTo(minimumSize());
+}
+
+void OvWindowBase::updateWindowSize()
+{
+    const QSize target = wantedWindowSize();
     // A move must not be answered with a resize for a rounding: a resize names the position as well and would
     // undo moves that are still under way.
     if (!m_followingMove || !isRoundingOf(target))
@@ -263,8 +270,33 @@ void OvWindowBase::resizeTo(const QPoint &globalPos)
 void OvWindowBase::moveEvent(QMoveEvent *event)
 {
     QWidget::moveEvent(event);
+    const QSize target = wantedWindowSize();
+    if (m_moveFollowed.isActive() && (size() == target || isRoundingOf(target))) {
+        m_followAgain = true;
+        return;
+    }
+    followMove();
+}
+
+// The repaint of everything that belongs to it takes longer than a move: while the window is dragged, moves
+// that leave its size right are followed together.
+void OvWindowBase::followMove()
+{
+    m_followAgain = false;
+    m_moveFollowed.start(FollowIntervalMs, this);
     const QScopedValueRollback<bool> followingMove(m_followingMove, true);
     updateWindowSize();
+}
+
+void OvWindowBase::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_moveFollowed.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    m_moveFollowed.stop();
+    if (m_followAgain)
+        followMove();
 }
 
 void OvWindowBase::paintEvent(QPaintEvent *)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBasicTimer>
 #include <QColor>
 #include <QPoint>
 #include <QRect>
@@ -80,8 +81,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
 
 private:
+    QSize wantedWindowSize() const;
+    void followMove();
     QRect screenGeometryAt(const QPoint &pos) const;
     bool isRoundingOf(const QSize &target) const;
     void updateEdge(const QPoint &pointer);
@@ -94,7 +98,9 @@ private:
     bool m_maximized = false;
     bool m_resizing = false; // a resize drag is under way
     bool m_resizeLocked = false;
-    bool m_followingMove = false; // in the middle of moveEvent
+    bool m_followingMove = false; // in the middle of followMove
+    QBasicTimer m_moveFollowed; // runs for a while after a move was followed
+    bool m_followAgain = false; // the window has been moved since
     bool m_moveWithEdge = true;
     int m_edgeRegion = 0; // set of EdgeResize::Edge under the pointer
     int m_shadowMargin;

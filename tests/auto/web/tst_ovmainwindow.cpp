@@ -15,6 +15,7 @@
 #include <QMetaMethod>
 #include <QScreen>
 #include <QShortcut>
+#include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -60,6 +61,8 @@ private slots:
     void moves();
     void maximizesAndRestores();
     void shortcutOnlyAfterSignIn();
+    void logoutReturnsToTheSignInPage_data();
+    void logoutReturnsToTheSignInPage();
     void minimizes();
     void languageReachesTheRequests();
     void closingEndsTheEventLoop();
@@ -127,9 +130,9 @@ void TestOvMainWindow::interfaceOrder()
     const QStringList expected{QStringLiteral("onSetWindowSize(int,int)"),
         QStringLiteral("onMoveWindow(int,int)"), QStringLiteral("onCloseWindow()"),
         QStringLiteral("onMinimizeWindow()"), QStringLiteral("onMaximizeWindow()"),
-        QStringLiteral("onRestoreWindow()"), QStringLiteral("onSetLanguage(QString)"),
-        QStringLiteral("onInstallNewVersionApp(QString,bool)"),
-        QStringLiteral("onMaximumShortcutActivated()")};
+        QStringLiteral("onRestoreWindow()"), QStringLiteral("onLogout()"),
+        QStringLiteral("onSetLanguage(QString)"), QStringLiteral("onInstallNewVersionApp(QString,bool)"),
+        QStringLiteral("onMaximumShortcutActivated()"), QStringLiteral("checkH5Version()")};
     QStringList actual;
     const QMetaObject &meta = OvMainWindow::staticMetaObject;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
@@ -232,6 +235,45 @@ void TestOvMainWindow::shortcutOnlyAfterSignIn()
     QTRY_COMPARE(window.geometry(), maximized);
     QTest::keyClick(&window, Qt::Key_F11);
     QTRY_COMPARE(window.geometry(), normal);
+}
+
+void TestOvMainWindow::logoutReturnsToTheSignInPage_data()
+{
+    QTest::addColumn<bool>("maximized");
+    QTest::newRow("normal") << false;
+    QTest::newRow("maximised") << true;
+}
+
+void TestOvMainWindow::logoutReturnsToTheSignInPage()
+{
+    QFETCH(bool, maximized);
+    OvMainWindow window;
+    window.show();
+    window.onSetWindowSize(1120, 760);
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    if (maximized) {
+        window.onMaximizeWindow();
+        QTRY_COMPARE(window.geometry(), available.adjusted(-3, -3, 3, 3));
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    }
+    QSignalSpy loads(window.webContainer()->webView(), &QWebEngineView::loadStarted);
+    window.jsApi()->callJsApi(QStringLiteral(R"({"jsApiName":"logout"})"));
+    QTRY_VERIFY(loads.count() > 0);
+    QTRY_COMPARE(window.webContainer()->webView()->url().toLocalFile(),
+        QCoreApplication::applicationDirPath() + QStringLiteral("/res/html/orvane/index.html"));
+    QCOMPARE(window.size(), QSize(320, 508));
+    QCOMPARE(window.minimumSize(), QSize(300, 488));
+    QCOMPARE(window.layout()->contentsMargins(), QMargins(10, 10, 10, 10));
+    QTRY_COMPARE(window.pos(),
+        available.topLeft() + QPoint((available.width() - 320) / 2, (available.height() - 508) / 2));
+    // As before the sign-in.
+    window.onMaximumShortcutActivated();
+    QCOMPARE(window.size(), QSize(320, 508));
+    // And a second sign-in works as the first.
+    window.onSetWindowSize(1120, 760);
+    QCOMPARE(window.size(), QSize(1140, 780));
+    window.onMaximumShortcutActivated();
+    QTRY_COMPARE(window.geometry(), available.adjusted(-3, -3, 3, 3));
 }
 
 void TestOvMainWindow::minimizes()

@@ -9,6 +9,7 @@
 #include "web/OvWebView.h"
 
 #include <QGuiApplication>
+#include <QJsonArray>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QScreen>
@@ -40,6 +41,12 @@ private slots:
     void opensWithoutAServiceId_data();
     void opensWithoutAServiceId();
     void destructionClosesTheWindows();
+    void standbyTimeComesFromLocalStorage_data();
+    void standbyTimeComesFromLocalStorage();
+    void standbyTimeReachesEveryOpenWindow();
+    void logoutClosesTheWindows();
+    void updateIsPassedOn_data();
+    void updateIsPassedOn();
 
 private:
     // Bodies of the requests with that action, oldest first.
@@ -110,7 +117,9 @@ void TestOvMainWindowJsApi::interfaceOrder()
     }
     QCOMPARE(slotNames,
         (QStringList{QStringLiteral("onOpenSingleController(QString,QString)"),
-            QStringLiteral("onCheckUnbindDevice()")}));
+            QStringLiteral("onOpenWebSingleController(web::StreamingData)"),
+            QStringLiteral("onUpdateGroup()"), QStringLiteral("onCheckUnbindDevice()"),
+            QStringLiteral("onCloseGroupControlWnd()")}));
 }
 
 void TestOvMainWindowJsApi::loginParamsAreStored()
@@ -143,7 +152,8 @@ void TestOvMainWindowJsApi::emptyLoginParamsComeFromLocalStorage()
 void TestOvMainWindowJsApi::emptyLoginParamsWithoutLocalStorage()
 {
     const webtest::LogCapture log;
-    m_api->callJsApi(callText(QStringLiteral("setLoginParams"), {{QStringLiteral("login-id"), 4}}));
+    m_api->callJsApi(
+        callText(QStringLiteral("setLoginParams"), {{QStringLiteral("login-id"), QJsonArray()}}));
     // Answers come in order: after this one the reads are done.
     evaluate(m_container->webView()->page(), QStringLiteral("1"));
     QVERIFY(HttpHelper::accessToken().isEmpty());
@@ -239,6 +249,97 @@ void TestOvMainWindowJsApi::destructionClosesTheWindows()
     const QPointer<SingleController> window = m_api->singleController(QStringLiteral("100005"));
     m_container.reset();
     QTRY_VERIFY(window.isNull());
+}
+
+void TestOvMainWindowJsApi::standbyTimeComesFromLocalStorage_data()
+{
+    QTest::addColumn<QString>("stored"); // what the page runs first
+    QTest::addColumn<int>("minutes");
+    QTest::newRow("number") << "window.localStorage.setItem('standbyTime', '30')" << 30;
+    QTest::newRow("none") << "1" << 5;
+    QTest::newRow("no number") << "window.localStorage.setItem('standbyTime', 'soon')" << 5;
+}
+
+void TestOvMainWindowJsApi::standbyTimeComesFromLocalStorage()
+{
+    QFETCH(QString, stored);
+    QWebEnginePage *page = m_container->webView()->page();
+    evaluate(page, stored);
+    open(QStringLiteral("100006"), QStringLiteral("Fjord"));
+    evaluate(page, QStringLiteral("1")); // answers come in order
+    QTEST(m_api->singleController(QStringLiteral("100006"))->standbyTime(), "minutes");
+}
+
+void TestOvMainWindowJsApi::standbyTimeReachesEveryOpenWindow()
+{
+    open(QStringLiteral("100007"), QStringLiteral("Glade"));
+    open(QStringLiteral("100008"), QStringLiteral("Harbor"));
+    evaluate(m_container->webView()->page(), QStringLiteral("1"));
+    m_api->callJsApi(callText(QStringLiteral("setStandbyTime"), {{QStringLiteral("standbyTime"), 12}}));
+    QCOMPARE(m_api->singleController(QStringLiteral("100007"))->standbyTime(), 12);
+    QCOMPARE(m_api->singleController(QStringLiteral("100008"))->standbyTime(), 12);
+}
+
+void TestOvMainWindowJsApi::logoutClosesTheWindows()
+{
+    open(QStringLiteral("100009"), QStringLiteral("Iris"));
+    open(QStringLiteral("100010"), QStringLiteral("Juniper"));
+    const QPointer<SingleController> first = m_api->singleController(QStringLiteral("100009"));
+    const QPointer<SingleController> second = m_api->singleController(QStringLiteral("100010"));
+    bool visibleAtSignal = true;
+    connect(m_api, &OvMainWindowJsApi::sigLogout, this,
+        [&] { visibleAtSignal = (first && first->isVisible()) || (second && second->isVisible()); });
+    QSignalSpy loggedOut(m_api, &OvMainWindowJsApi::sigLogout);
+    m_api->callJsApi(callText(QStringLiteral("logout")));
+    QCOMPARE(loggedOut.count(), 1);
+    QVERIFY(!visibleAtSignal);
+    QTRY_VERIFY(first.isNull() && second.isNull());
+    m_api->callJsApi(callText(QStringLiteral("logout"))); // nothing is open
+    QCOMPARE(loggedOut.count(), 2);
+}
+
+void TestOvMainWindowJsApi::updateIsPassedOn_data()
+{
+    QTest::addColumn<QString>("members");
+    QTest::addColumn<QString>("path"); // empty: no signal
+    QTest::addColumn<QString>("files");
+    QTest::newRow("update")
+        << R"("pc_update_info":{"update_path":"http://x/release","file_info":[{"file_name":"a.exe"}]})"
+        << "http://x/release"
+        << R"([{"file_name":"a.exe"}])";
+    QTest::newRow("no files") << R"("pc_update_info":{"update_path":"http://x"})"
+                              << "http://x"
+                              << "[]";
+    QTest::newRow("files of a wrong type")
+        << R"("pc_update_info":{"update_path":"http://x","file_info":{"file_name":"a.exe"}})"
+        << "http://x"
+        << "[]";
+    QTest::newRow("empty path") << R"("pc_update_info":{"update_path":"","file_info":[{}]})"
+                                << ""
+                                << "[]";
+    QTest::newRow("path of a wrong type") << R"("pc_update_info":{"update_path":7})"
+                                          << ""
+                                          << "[]";
+    QTest::newRow("wrong type") << R"("pc_update_info":"http://x")"
+                                << ""
+                                << "[]";
+    QTest::newRow("missing") << R"("other":1)"
+                             << ""
+                             << "[]";
+}
+
+void TestOvMainWindowJsApi::updateIsPassedOn()
+{
+    QFETCH(QString, members);
+    QFETCH(QString, path);
+    QFETCH(QString, files);
+    QSignalSpy update(m_api, &OvMainWindowJsApi::sigUpdateNewVersion);
+    m_api->callJsApi(QStringLiteral(R"({"jsApiName":"updateNewVersion",%1})").arg(members));
+    QCOMPARE(update.count(), path.isEmpty() ? 0 : 1);
+    if (path.isEmpty())
+        return;
+    QCOMPARE(update.at(0).at(0).toString(), path);
+    QCOMPARE(update.at(0).at(1).toJsonArray(), QJsonDocument::fromJson(files.toUtf8()).array());
 }
 
 QTEST_MAIN(TestOvMainWindowJsApi)

@@ -59,6 +59,7 @@ private slots:
     void shadowMargin();
     void fixedContentSize();
     void moveUpdatesTheSize();
+    void movesAreFollowedTogether();
     void maximizeAndRestore();
     void maximizeTwice();
     void restoreWithoutMaximize();
@@ -211,6 +212,37 @@ void TestOvWindowBase::maximizeAndRestore()
     QCOMPARE(window.geometry(), QRect(100, 200, 820, 620));
     QCOMPARE(window.contentSize(), QSize(800, 600));
     QCOMPARE(window.layout()->contentsMargins(), QMargins(10, 10, 10, 10));
+}
+
+// A dragged window would otherwise repaint everything in it for every step.
+void TestOvWindowBase::movesAreFollowedTogether()
+{
+    class CountingWindow : public Window
+    {
+    public:
+        void updateWindowSize() override
+        {
+            ++updates;
+            Window::updateWindowSize();
+        }
+        int updates = 0;
+    };
+    CountingWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_COMPARE(window.pos(), QPoint(100, 200));
+    window.updates = 0;
+    for (int x = 101; x <= 150; ++x)
+        window.move(x, 200);
+    QVERIFY2(window.updates <= 1, qPrintable(QString::number(window.updates)));
+    const int soFar = window.updates;
+    QTRY_COMPARE(window.updates, soFar + 1); // the last move is followed as well
+
+    // What is more than a move does not wait.
+    window.move(160, 200);
+    window.setContentSize(QSize(500, 400));
+    window.move(170, 200);
+    QCOMPARE(window.size(), QSize(520, 420));
 }
 
 void TestOvWindowBase::maximizeTwice()

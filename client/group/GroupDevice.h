@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QDateTime>
+#include <QJsonObject>
+#include <QMap>
+#include <QSize>
+#include <QString>
+
+namespace group {
+
+// One device of a group, as the page hands it over. Plain value.
+struct GroupDevice
+{
+    QString serviceId;
+    QString aliasName;
+    QString payMode;
+    QDateTime expireTime; // local time; invalid if the page gave none that can be read
+    QString networkTime; // the service's time when the page learnt of the device, as its text
+    QSize screenSize{720, 1280}; // pixels in portrait, until the stream tells the real one
+};
+
+// By service id, ascending: the first is the group's master.
+using GroupDevices = QMap<QString, GroupDevice>;
+
+// The devices in the member "children" of the page's group object. What is no object, or names no
+// "service_id", is left out with a line in the log; a device that is named twice counts once, as named last.
+GroupDevices groupDevicesOf(const QJsonObject &winData);
+
+} // namespace group

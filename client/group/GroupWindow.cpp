@@ -1,0 +1,5 @@
+#include "group/GroupWindow.h"
+
+GroupWindow::GroupWindow(QWidget *parent)
+    : OvWindowBase(parent)
+{ }
