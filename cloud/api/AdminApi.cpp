@@ -16,6 +16,7 @@ namespace orvane::cloud {
 namespace {
 
 // What the values of the bodies may be at most.
+constexpr std::int64_t maxRemainingSeconds = 1'000'000'000; // 31 years
 constexpr std::int64_t maxStallMs = 600'000;
 constexpr std::int64_t maxKbitPerSec = 10'000'000;
 constexpr std::int64_t maxCorruptedUnits = 100'000;
@@ -60,6 +61,7 @@ void AdminApi::addRoutes(Router &router)
     add(Verb::post, "/admin/devices/{pad}/rotate", &AdminApi::rotate);
     add(Verb::post, "/admin/devices/{pad}/camera", &AdminApi::camera);
     add(Verb::post, "/admin/devices/{pad}/expire", &AdminApi::expire);
+    add(Verb::post, "/admin/devices/{pad}/remaining", &AdminApi::setRemaining);
     add(Verb::post, "/admin/connections/cut", &AdminApi::cut);
     add(Verb::post, "/admin/connections/stall", &AdminApi::stall);
     add(Verb::post, "/admin/connections/bandwidth", &AdminApi::limitBandwidth);
@@ -152,7 +154,14 @@ ApiAnswer AdminApi::camera(const ApiCall &call)
 ApiAnswer AdminApi::expire(const ApiCall &call)
 {
     demandDevice(call.pad);
-    m_expiry.expireNow(call.pad);
+    m_expiry.expireIn(call.pad, std::chrono::seconds(0));
+    return {};
+}
+
+ApiAnswer AdminApi::setRemaining(const ApiCall &call)
+{
+    demandDevice(call.pad);
+    m_expiry.expireIn(call.pad, std::chrono::seconds(call.body.integer("seconds", 0, maxRemainingSeconds)));
     return {};
 }
 

@@ -31,6 +31,7 @@ private:
     ApiAnswer rotate(const ApiCall &call);
     ApiAnswer camera(const ApiCall &call);
     ApiAnswer expire(const ApiCall &call);
+    ApiAnswer setRemaining(const ApiCall &call);
     ApiAnswer cut(const ApiCall &call);
     ApiAnswer stall(const ApiCall &call);
     ApiAnswer limitBandwidth(const ApiCall &call);
