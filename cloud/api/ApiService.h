@@ -2,6 +2,7 @@
 
 #include "api/AdminApi.h"
 #include "api/DeviceApi.h"
+#include "api/DeviceGroupApi.h"
 #include "api/ExpiryWatch.h"
 #include "api/HttpServer.h"
 #include "api/Router.h"
@@ -30,6 +31,7 @@ private:
     ExpiryWatch m_expiryWatch;
     UserApi m_userApi;
     DeviceApi m_deviceApi;
+    DeviceGroupApi m_deviceGroupApi;
     AdminApi m_adminApi;
     HttpServer m_server;
 };

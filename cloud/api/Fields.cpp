@@ -67,6 +67,18 @@ std::string Fields::textOrEmpty(const char *name, std::size_t maxBytes) const
     return text(name, maxBytes);
 }
 
+std::string Fields::title(const char *name, int maxCharacters) const
+{
+    const QJsonValue value = required(name);
+    const QString title = value.toString().trimmed();
+    if (!value.isString() || title.isEmpty() || title.toUcs4().size() > maxCharacters)
+        refuse(name, "a text of 1 to " + std::to_string(maxCharacters) + " characters");
+    std::string utf8 = title.toStdString();
+    if (hasControlCharacter(utf8))
+        refuse(name, "without control characters");
+    return utf8;
+}
+
 std::string Fields::secret(const char *name, std::size_t maxBytes) const
 {
     return checkedText(name, required(name), maxBytes);

@@ -21,6 +21,9 @@ public:
     std::string text(const char *name, std::size_t maxBytes = 128) const;
     // The same, or "" when it is missing or empty.
     std::string textOrEmpty(const char *name, std::size_t maxBytes = 128) const;
+    // A name that a user gave: 1 to maxCharacters Unicode code points without control characters. Blanks at
+    // its ends do not belong to it.
+    std::string title(const char *name, int maxCharacters) const;
     // A secret: a text of 1 to maxBytes bytes of any kind.
     std::string secret(const char *name, std::size_t maxBytes = 256) const;
     // An integral number within a range, both ends included.

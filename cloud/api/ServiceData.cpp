@@ -28,6 +28,7 @@ ServiceData::ServiceData(const std::string &folder, Clocks serviceClocks)
     , users(database)
     , signIns(database, clocks)
     , devices(database)
+    , groups(database, clocks)
     , sessions(database, clocks)
 { }
 

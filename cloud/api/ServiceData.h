@@ -2,6 +2,7 @@
 
 #include "api/Clocks.h"
 #include "api/Database.h"
+#include "api/DeviceGroupStore.h"
 #include "api/DeviceStore.h"
 #include "api/SignInStore.h"
 #include "api/StreamSessionStore.h"
@@ -23,6 +24,7 @@ struct ServiceData
     UserStore users;
     SignInStore signIns;
     DeviceStore devices;
+    DeviceGroupStore groups;
     StreamSessionStore sessions;
 };
 
