@@ -1,6 +1,7 @@
 #pragma once
 
 #include "api/AdminApi.h"
+#include "api/ClientApi.h"
 #include "api/DeviceApi.h"
 #include "api/DeviceGroupApi.h"
 #include "api/ExpiryWatch.h"
@@ -32,6 +33,7 @@ private:
     UserApi m_userApi;
     DeviceApi m_deviceApi;
     DeviceGroupApi m_deviceGroupApi;
+    ClientApi m_clientApi;
     AdminApi m_adminApi;
     HttpServer m_server;
 };

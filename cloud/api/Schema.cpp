@@ -66,6 +66,20 @@ constexpr const char *schemaSteps[] = {
         user_id INTEGER PRIMARY KEY REFERENCES users(id) ON DELETE CASCADE
     );
     )",
+    R"(
+    CREATE TABLE release (
+        id INTEGER PRIMARY KEY CHECK (id = 1),
+        version TEXT NOT NULL,
+        version_code INTEGER NOT NULL,
+        notes TEXT NOT NULL,
+        update_path TEXT NOT NULL
+    );
+    CREATE TABLE release_files (
+        position INTEGER PRIMARY KEY,
+        name TEXT NOT NULL,
+        bytes INTEGER NOT NULL
+    );
+    )",
 };
 constexpr int schemaVersion = static_cast<int>(std::size(schemaSteps));
 

@@ -30,6 +30,7 @@ ServiceData::ServiceData(const std::string &folder, Clocks serviceClocks)
     , devices(database)
     , groups(database, clocks)
     , sessions(database, clocks)
+    , releases(database)
 { }
 
 } // namespace orvane::cloud

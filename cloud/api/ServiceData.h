@@ -4,6 +4,7 @@
 #include "api/Database.h"
 #include "api/DeviceGroupStore.h"
 #include "api/DeviceStore.h"
+#include "api/ReleaseStore.h"
 #include "api/SignInStore.h"
 #include "api/StreamSessionStore.h"
 #include "api/UserStore.h"
@@ -26,6 +27,7 @@ struct ServiceData
     DeviceStore devices;
     DeviceGroupStore groups;
     StreamSessionStore sessions;
+    ReleaseStore releases;
 };
 
 } // namespace orvane::cloud

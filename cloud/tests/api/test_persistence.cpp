@@ -140,7 +140,8 @@ TEST_F(PersistenceTest, aDatabaseOfTheFirstVersionIsBroughtUpToDate)
     const std::vector<Device> devices = m_data->devices.all();
     {
         const Database::Lock lock = m_data->database.lock();
-        for (const char *table : {"device_group_members", "device_groups", "seeded_groups"})
+        for (const char *table :
+            {"device_group_members", "device_groups", "seeded_groups", "release", "release_files"})
             m_data->database.execute((std::string("DROP TABLE ") + table).c_str());
         m_data->database.execute("PRAGMA user_version = 1");
     }
