@@ -16,10 +16,17 @@ namespace orvane::cloud {
 namespace {
 
 // What the values of the bodies may be at most.
+constexpr std::int64_t maxRemainingSeconds = 1'000'000'000; // 31 years
 constexpr std::int64_t maxStallMs = 600'000;
 constexpr std::int64_t maxKbitPerSec = 10'000'000;
 constexpr std::int64_t maxCorruptedUnits = 100'000;
 constexpr std::uint64_t maxPictureSide = 1280;
+constexpr std::int64_t maxVersionCode = 1'000'000'000;
+constexpr std::size_t maxNotesBytes = 65'536;
+constexpr std::size_t maxUrlBytes = 2048;
+constexpr std::size_t maxReleaseFiles = 100;
+constexpr std::size_t maxFileNameBytes = 255;
+constexpr std::int64_t maxFileBytes = 1'000'000'000'000;
 
 QString text(const std::string &utf8)
 {
@@ -60,10 +67,12 @@ void AdminApi::addRoutes(Router &router)
     add(Verb::post, "/admin/devices/{pad}/rotate", &AdminApi::rotate);
     add(Verb::post, "/admin/devices/{pad}/camera", &AdminApi::camera);
     add(Verb::post, "/admin/devices/{pad}/expire", &AdminApi::expire);
+    add(Verb::post, "/admin/devices/{pad}/remaining", &AdminApi::setRemaining);
     add(Verb::post, "/admin/connections/cut", &AdminApi::cut);
     add(Verb::post, "/admin/connections/stall", &AdminApi::stall);
     add(Verb::post, "/admin/connections/bandwidth", &AdminApi::limitBandwidth);
     add(Verb::post, "/admin/connections/corrupt", &AdminApi::corrupt);
+    add(Verb::post, "/admin/release", &AdminApi::setRelease);
     add(Verb::get, "/admin/stats", &AdminApi::stats);
 }
 
@@ -152,7 +161,14 @@ ApiAnswer AdminApi::camera(const ApiCall &call)
 ApiAnswer AdminApi::expire(const ApiCall &call)
 {
     demandDevice(call.pad);
-    m_expiry.expireNow(call.pad);
+    m_expiry.expireIn(call.pad, std::chrono::seconds(0));
+    return {};
+}
+
+ApiAnswer AdminApi::setRemaining(const ApiCall &call)
+{
+    demandDevice(call.pad);
+    m_expiry.expireIn(call.pad, std::chrono::seconds(call.body.integer("seconds", 0, maxRemainingSeconds)));
     return {};
 }
 
@@ -180,6 +196,24 @@ ApiAnswer AdminApi::corrupt(const ApiCall &call)
     const std::string padCode = padOfBody(call);
     return connectionCount(
         m_fleet.corruptVideo(padCode, static_cast<int>(call.body.integer("count", 1, maxCorruptedUnits))));
+}
+
+ApiAnswer AdminApi::setRelease(const ApiCall &call)
+{
+    Release release;
+    release.version = call.body.emptyOrText("version");
+    if (release.version.empty()) {
+        m_data.releases.withdraw();
+        return {};
+    }
+    release.versionCode = call.body.integer("version_code", 1, maxVersionCode);
+    release.notes = call.body.lines("notes", maxNotesBytes);
+    release.updatePath = call.body.text("update_path", maxUrlBytes);
+    for (const Fields &file : call.body.objects("files", maxReleaseFiles))
+        release.files.push_back(
+            {file.text("file_name", maxFileNameBytes), file.integer("size", 0, maxFileBytes)});
+    m_data.releases.offer(release);
+    return {};
 }
 
 ApiAnswer AdminApi::stats(const ApiCall &)

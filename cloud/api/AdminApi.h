@@ -31,10 +31,12 @@ private:
     ApiAnswer rotate(const ApiCall &call);
     ApiAnswer camera(const ApiCall &call);
     ApiAnswer expire(const ApiCall &call);
+    ApiAnswer setRemaining(const ApiCall &call);
     ApiAnswer cut(const ApiCall &call);
     ApiAnswer stall(const ApiCall &call);
     ApiAnswer limitBandwidth(const ApiCall &call);
     ApiAnswer corrupt(const ApiCall &call);
+    ApiAnswer setRelease(const ApiCall &call);
     ApiAnswer stats(const ApiCall &call);
 
     void demandDevice(const std::string &padCode) const;

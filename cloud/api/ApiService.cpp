@@ -9,11 +9,15 @@ ApiService::ApiService(ServiceData &data, DeviceFleet &fleet, const HttpServerOp
     , m_expiryWatch(data, fleet)
     , m_userApi(data, fleet)
     , m_deviceApi(data, fleet)
+    , m_deviceGroupApi(data)
+    , m_clientApi(data)
     , m_adminApi(data, fleet, m_expiryWatch)
     , m_server(options, [this](const HttpRequest &request) { return m_router.handle(request); })
 {
     m_userApi.addRoutes(m_router);
     m_deviceApi.addRoutes(m_router);
+    m_deviceGroupApi.addRoutes(m_router);
+    m_clientApi.addRoutes(m_router);
     m_adminApi.addRoutes(m_router);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "api/AdminApi.h"
+#include "api/ClientApi.h"
 #include "api/DeviceApi.h"
+#include "api/DeviceGroupApi.h"
 #include "api/ExpiryWatch.h"
 #include "api/HttpServer.h"
 #include "api/Router.h"
@@ -30,6 +32,8 @@ private:
     ExpiryWatch m_expiryWatch;
     UserApi m_userApi;
     DeviceApi m_deviceApi;
+    DeviceGroupApi m_deviceGroupApi;
+    ClientApi m_clientApi;
     AdminApi m_adminApi;
     HttpServer m_server;
 };

@@ -23,6 +23,10 @@ constexpr std::array demoNames{"Aurora", "Breeze", "Comet", "Dune", "Ember", "Fj
     "Iris", "Juniper", "Kestrel", "Lagoon"};
 constexpr std::array secondNames{"Maple", "Nova"};
 
+// Each of the next few devices, from the first one on.
+constexpr std::array demoGroupNames{"Morning farm", "Guild raid"};
+constexpr std::size_t demoGroupSize = 4;
+
 using Days = std::chrono::duration<int, std::ratio<86400>>;
 
 // Days until a device's time is over, repeated for more devices: mostly months, so that lists show a mixture.
@@ -59,6 +63,24 @@ void setDeviceCount(ServiceData &data, std::int32_t userId, int count)
     data.devices.remove(surplus);
 }
 
+// The groups that the demo account begins with, of those devices that it has.
+std::vector<DeviceGroup> demoGroups(const ServiceData &data, std::int32_t userId)
+{
+    const std::vector<Device> devices = data.devices.ofUser(userId);
+    std::vector<DeviceGroup> groups;
+    std::size_t first = 0;
+    for (const char *name : demoGroupNames) {
+        DeviceGroup group;
+        group.name = name;
+        const std::size_t end = std::min(first + demoGroupSize, devices.size());
+        for (; first < end; ++first)
+            group.serviceIds.push_back(devices[first].serviceId);
+        if (!group.serviceIds.empty())
+            groups.push_back(std::move(group));
+    }
+    return groups;
+}
+
 void createSecondUser(ServiceData &data)
 {
     const User second = data.users.create(secondAccount, "Second", secondPassword);
@@ -84,6 +106,7 @@ void prepareDemoData(ServiceData &data, std::optional<int> deviceCount)
     }
     if (deviceCount)
         setDeviceCount(data, demo->id, std::clamp(*deviceCount, 0, maxDeviceCount));
+    data.groups.seed(demo->id, demoGroups(data, demo->id));
 }
 
 } // namespace orvane::cloud

@@ -7,6 +7,7 @@
 #include "core/DeviceFleet.h"
 
 #include <QJsonArray>
+#include <QUuid>
 
 #include <algorithm>
 #include <limits>
@@ -19,9 +20,18 @@ namespace {
 constexpr std::size_t maxServiceIds = 500;
 constexpr int listPictureMaxSide = 480; // pixels
 
+// Of this service's devices among all UUIDs that are made of names.
+constexpr QUuid deviceNamespace(0x5f0c3a52, 0x7d5e, 0x4b0e, 0x9d, 0x0f, 0x6a, 0x3e, 0x0b, 0x7c, 0x1d, 0x24);
+
 QString text(const std::string &utf8)
 {
     return QString::fromStdString(utf8);
+}
+
+// Made of the pad code (RFC 4122, version 5), so a device has the same one for good.
+QString uuidOf(const Device &device)
+{
+    return QUuid::createUuidV5(deviceNamespace, text(device.padCode)).toString(QUuid::WithoutBraces);
 }
 
 } // namespace
@@ -69,6 +79,7 @@ QJsonObject DeviceApi::describe(const Device &device, const SignIn &signIn) cons
         {QStringLiteral("device_id"), text(device.padCode)},
         {QStringLiteral("device_name"), text(device.padCode)},
         {QStringLiteral("alias_name"), text(device.aliasName)},
+        {QStringLiteral("node_type"), QStringLiteral("vm")}, {QStringLiteral("uuid"), uuidOf(device)},
         {QStringLiteral("state"), deviceStateName(over, m_fleet.state(device.padCode))},
         {QStringLiteral("pay_mode"), text(device.payMode)},
         {QStringLiteral("expire_time"), localTimeText(device.expiresAt)},

@@ -11,7 +11,10 @@ namespace orvane::cloud {
 
 namespace {
 
-constexpr std::chrono::milliseconds longestSleep = std::chrono::seconds(30);
+// A device's time may be changed, the calendar set forward, the machine asleep: none of them shortens a wait.
+constexpr std::chrono::milliseconds longestSleep(500);
+// While the database cannot be read, so that the log is not flooded.
+constexpr std::chrono::milliseconds sleepAfterFailure(5000);
 
 } // namespace
 
@@ -41,7 +44,7 @@ void ExpiryWatch::run()
 {
     std::unique_lock lock(m_mutex);
     while (!m_stopping) {
-        std::chrono::milliseconds sleep = longestSleep;
+        std::chrono::milliseconds sleep = sleepAfterFailure;
         try {
             checkLocked();
             sleep = timeToNextCheck();
@@ -58,12 +61,15 @@ void ExpiryWatch::check()
     checkLocked();
 }
 
-bool ExpiryWatch::expireNow(const std::string &padCode)
+bool ExpiryWatch::expireIn(const std::string &padCode, std::chrono::seconds remaining)
 {
     const std::lock_guard lock(m_mutex);
-    // Never before m_checkedUntil, or the check would not see it.
-    if (!m_data.devices.setExpiresAt(padCode, m_data.clocks.wall()))
+    const WallTime end = m_data.clocks.wall() + remaining;
+    if (!m_data.devices.setExpiresAt(padCode, end))
         return false;
+    // Checks look only at what ends after this: an end at the moment of the last check must still be before
+    // them.
+    m_checkedUntil = std::min(m_checkedUntil, end - std::chrono::milliseconds(1));
     checkLocked();
     return true;
 }
@@ -71,9 +77,9 @@ bool ExpiryWatch::expireNow(const std::string &padCode)
 void ExpiryWatch::checkLocked()
 {
     const WallTime now = m_data.clocks.wall();
-    // Both ends included: ending a session twice does no harm, and neither does a calendar that was set back.
-    const WallTime from = std::min(m_checkedUntil, now);
-    for (const std::string &sessionId : m_data.sessions.expiredBetween(from, now))
+    // A calendar that was set back makes devices usable again; they are over once more when their time comes.
+    const WallTime after = std::min(m_checkedUntil, now);
+    for (const std::string &sessionId : m_data.sessions.expiredBetween(after, now))
         m_fleet.endSession(sessionId, true);
     m_checkedUntil = now;
     for (const std::string &sessionId : m_data.signIns.removeExpired())

@@ -13,8 +13,8 @@ class DeviceFleet;
 struct ServiceData;
 
 // Ends what is over while the service runs: the streams of devices whose time has run out, and old sign-ins
-// with their streams. A thread of its own sleeps until the next device's time is over, but not for longer
-// than half a minute, because the calendar may be set meanwhile.
+// with their streams, at the latest half a second after their time. A thread of its own sleeps until the next
+// device's time is over, but not for longer than that half second, because times may be changed meanwhile.
 //
 // Owned by ApiService. Operations may be called from any thread.
 class ExpiryWatch
@@ -29,8 +29,9 @@ public:
     void start();
     // Looks for what is over and ends it. Throws DatabaseError.
     void check();
-    // A device's time is over now. False when there is no such device. Throws DatabaseError.
-    bool expireNow(const std::string &padCode);
+    // A device's time is over in so many seconds from now; with 0 its sessions have been ended on return.
+    // False when there is no such device. Throws DatabaseError.
+    bool expireIn(const std::string &padCode, std::chrono::seconds remaining);
 
 private:
     void run();

@@ -67,6 +67,41 @@ std::string Fields::textOrEmpty(const char *name, std::size_t maxBytes) const
     return text(name, maxBytes);
 }
 
+std::string Fields::emptyOrText(const char *name, std::size_t maxBytes) const
+{
+    const QJsonValue value = required(name);
+    return value.isString() && value.toString().isEmpty() ? std::string() : text(name, maxBytes);
+}
+
+std::string Fields::lines(const char *name, std::size_t maxBytes) const
+{
+    const QJsonValue value = m_values.value(QLatin1String(name));
+    if (value.isUndefined())
+        return {};
+    std::string text = value.toString().toStdString();
+    if (!value.isString() || text.size() > maxBytes)
+        refuse(name, "a text of up to " + std::to_string(maxBytes) + " bytes");
+    std::string visible = text;
+    visible.erase(std::remove_if(visible.begin(), visible.end(),
+                      [](char c) { return c == '\n' || c == '\r' || c == '\t'; }),
+        visible.end());
+    if (hasControlCharacter(visible))
+        refuse(name, "without control characters");
+    return text;
+}
+
+std::string Fields::title(const char *name, int maxCharacters) const
+{
+    const QJsonValue value = required(name);
+    const QString title = value.toString().trimmed();
+    if (!value.isString() || title.isEmpty() || title.toUcs4().size() > maxCharacters)
+        refuse(name, "a text of 1 to " + std::to_string(maxCharacters) + " characters");
+    std::string utf8 = title.toStdString();
+    if (hasControlCharacter(utf8))
+        refuse(name, "without control characters");
+    return utf8;
+}
+
 std::string Fields::secret(const char *name, std::size_t maxBytes) const
 {
     return checkedText(name, required(name), maxBytes);
@@ -100,6 +135,20 @@ std::vector<std::string> Fields::texts(const char *name, std::size_t maxCount, s
     result.reserve(static_cast<std::size_t>(array.size()));
     for (const QJsonValue element : array)
         result.push_back(checkedText(name, element, maxBytes));
+    return result;
+}
+
+std::vector<Fields> Fields::objects(const char *name, std::size_t maxCount) const
+{
+    const QJsonArray array = required(name).toArray();
+    const bool allObjects = std::all_of(
+        array.begin(), array.end(), [](const QJsonValue &element) { return element.isObject(); });
+    if (array.isEmpty() || static_cast<std::size_t>(array.size()) > maxCount || !allObjects)
+        refuse(name, "a list of 1 to " + std::to_string(maxCount) + " objects");
+    std::vector<Fields> result;
+    result.reserve(static_cast<std::size_t>(array.size()));
+    for (const QJsonValue element : array)
+        result.emplace_back(element.toObject());
     return result;
 }
 

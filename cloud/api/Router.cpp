@@ -8,7 +8,9 @@
 #include <QUrlQuery>
 
 #include <algorithm>
+#include <charconv>
 #include <exception>
+#include <limits>
 
 namespace orvane::cloud {
 
@@ -73,6 +75,18 @@ bool isTestProgram(const HttpRequest &request)
     const std::string_view host = hostOf(request);
     const bool loopbackHost = host == "localhost" || host == "[::1]" || host.substr(0, 4) == "127.";
     return request.fromLoopback && loopbackHost && request.message.count(http::field::origin) == 0;
+}
+
+// 0 for what is no whole number from 0 on.
+std::int64_t versionCode(std::string_view text)
+{
+    const bool isNumber = !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+    std::int64_t code = 0;
+    if (!isNumber)
+        return code;
+    const std::errc error = std::from_chars(text.data(), text.data() + text.size(), code).ec;
+    // Newer than anything there is, rather than older.
+    return error == std::errc::result_out_of_range ? std::numeric_limits<std::int64_t>::max() : code;
 }
 
 // Thrown by value within this file only.
@@ -162,6 +176,7 @@ HttpResponse Router::answer(const HttpRequest &request, const Match &match) cons
     if (queryBegin != std::string_view::npos)
         call.query = Fields(queryValues(target.substr(queryBegin + 1)));
     call.pad = match.pad;
+    call.clientVersionCode = versionCode(view(request.message["pc-version"]));
     if (match.route->access == Access::SignedIn)
         call.signIn = signInOf(request);
     return answerReply(match.route->handler(call));

@@ -46,6 +46,40 @@ constexpr const char *schemaSteps[] = {
     CREATE INDEX stream_sessions_of_device ON stream_sessions(pad_code, user_id);
     CREATE INDEX stream_sessions_of_sign_in ON stream_sessions(sign_in_id);
     )",
+    R"(
+    CREATE TABLE device_groups (
+        id INTEGER PRIMARY KEY AUTOINCREMENT,
+        user_id INTEGER NOT NULL REFERENCES users(id) ON DELETE CASCADE,
+        name TEXT NOT NULL,
+        created_at INTEGER NOT NULL
+    );
+    CREATE INDEX device_groups_of_user ON device_groups(user_id);
+    CREATE TABLE device_group_members (
+        group_id INTEGER NOT NULL REFERENCES device_groups(id) ON DELETE CASCADE,
+        position INTEGER NOT NULL,
+        service_id TEXT NOT NULL REFERENCES devices(service_id) ON DELETE CASCADE,
+        PRIMARY KEY (group_id, position)
+    ) WITHOUT ROWID;
+    CREATE INDEX device_group_members_of_device ON device_group_members(service_id);
+    -- Users whose first groups have been put in.
+    CREATE TABLE seeded_groups (
+        user_id INTEGER PRIMARY KEY REFERENCES users(id) ON DELETE CASCADE
+    );
+    )",
+    R"(
+    CREATE TABLE release (
+        id INTEGER PRIMARY KEY CHECK (id = 1),
+        version TEXT NOT NULL,
+        version_code INTEGER NOT NULL,
+        notes TEXT NOT NULL,
+        update_path TEXT NOT NULL
+    );
+    CREATE TABLE release_files (
+        position INTEGER PRIMARY KEY,
+        name TEXT NOT NULL,
+        bytes INTEGER NOT NULL
+    );
+    )",
 };
 constexpr int schemaVersion = static_cast<int>(std::size(schemaSteps));
 

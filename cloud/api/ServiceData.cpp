@@ -28,7 +28,9 @@ ServiceData::ServiceData(const std::string &folder, Clocks serviceClocks)
     , users(database)
     , signIns(database, clocks)
     , devices(database)
+    , groups(database, clocks)
     , sessions(database, clocks)
+    , releases(database)
 { }
 
 } // namespace orvane::cloud

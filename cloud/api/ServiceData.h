@@ -2,7 +2,9 @@
 
 #include "api/Clocks.h"
 #include "api/Database.h"
+#include "api/DeviceGroupStore.h"
 #include "api/DeviceStore.h"
+#include "api/ReleaseStore.h"
 #include "api/SignInStore.h"
 #include "api/StreamSessionStore.h"
 #include "api/UserStore.h"
@@ -23,7 +25,9 @@ struct ServiceData
     UserStore users;
     SignInStore signIns;
     DeviceStore devices;
+    DeviceGroupStore groups;
     StreamSessionStore sessions;
+    ReleaseStore releases;
 };
 
 } // namespace orvane::cloud

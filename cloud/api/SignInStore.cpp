@@ -22,6 +22,11 @@ std::string tokenHash(std::string_view token)
     return toHex(digest);
 }
 
+SignIn signInOf(const Statement &row)
+{
+    return SignIn{row.integer(0), static_cast<std::int32_t>(row.integer(1)), row.text(2), row.time(3)};
+}
+
 } // namespace
 
 SignInStore::SignInStore(Database &database, Clocks clocks)
@@ -46,21 +51,20 @@ std::optional<SignIn> SignInStore::find(std::string_view accessToken, std::strin
     const std::string hash = tokenHash(accessToken);
     const Database::Lock lock = m_database.lock();
     Statement select(m_database,
-        "SELECT id, user_id, login_id FROM sign_ins WHERE token_hash = ? AND expires_at > ?", hash,
-        m_clocks.wall());
+        "SELECT id, user_id, login_id, expires_at FROM sign_ins WHERE token_hash = ? AND expires_at > ?",
+        hash, m_clocks.wall());
     if (!select.step() || !equalSecrets(select.text(2), loginId))
         return std::nullopt;
-    return SignIn{select.integer(0), static_cast<std::int32_t>(select.integer(1))};
+    return signInOf(select);
 }
 
 std::optional<SignIn> SignInStore::find(std::int64_t signInId) const
 {
     const Database::Lock lock = m_database.lock();
-    Statement select(m_database, "SELECT user_id FROM sign_ins WHERE id = ? AND expires_at > ?", signInId,
+    Statement select(m_database,
+        "SELECT id, user_id, login_id, expires_at FROM sign_ins WHERE id = ? AND expires_at > ?", signInId,
         m_clocks.wall());
-    if (!select.step())
-        return std::nullopt;
-    return SignIn{signInId, static_cast<std::int32_t>(select.integer(0))};
+    return select.step() ? std::optional<SignIn>(signInOf(select)) : std::nullopt;
 }
 
 std::vector<std::string> SignInStore::remove(std::int64_t signInId)

@@ -25,6 +25,8 @@ struct SignIn
 {
     std::int64_t id = -1;
     std::int32_t userId = -1;
+    std::string loginId;
+    WallTime expiresAt; // not in force from this moment on
 };
 
 // The sign-ins, which outlive a restart. Access tokens are stored as SHA-256 hashes only. Every operation may

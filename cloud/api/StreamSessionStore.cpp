@@ -62,13 +62,13 @@ std::vector<std::string> StreamSessionStore::giveBack(std::int32_t userId, std::
     return sessions;
 }
 
-std::vector<std::string> StreamSessionStore::expiredBetween(WallTime from, WallTime to) const
+std::vector<std::string> StreamSessionStore::expiredBetween(WallTime after, WallTime until) const
 {
     const Database::Lock lock = m_database.lock();
     Statement select(m_database,
         "SELECT session_id FROM stream_sessions JOIN devices USING (pad_code)"
-        " WHERE devices.expires_at >= ? AND devices.expires_at <= ?",
-        from, to);
+        " WHERE devices.expires_at > ? AND devices.expires_at <= ?",
+        after, until);
     return select.texts();
 }
 

@@ -37,8 +37,8 @@ public:
     std::vector<Granted> grant(const SignIn &signIn, const std::vector<std::string> &padCodes);
     // Takes back all sessions of a user with a device. Returns their ids.
     std::vector<std::string> giveBack(std::int32_t userId, std::string_view padCode);
-    // Ids of the sessions with devices whose time ended between two moments, both included.
-    std::vector<std::string> expiredBetween(WallTime from, WallTime to) const;
+    // Ids of the sessions with devices whose time ended after one moment, but not after another.
+    std::vector<std::string> expiredBetween(WallTime after, WallTime until) const;
 
     // A database error is logged and answered with Unknown: who cannot be checked does not stream.
     SessionState check(const StreamSession &session) override;

@@ -4,6 +4,8 @@
 #include "api/ServiceData.h"
 #include "core/DeviceFleet.h"
 
+#include <algorithm>
+
 namespace orvane::cloud {
 
 namespace {
@@ -28,6 +30,8 @@ void UserApi::addRoutes(Router &router)
         [this](const ApiCall &call) { return signIn(call); });
     router.add(Verb::post, "/apiv1/user/logout", Access::SignedIn,
         [this](const ApiCall &call) { return signOut(call); });
+    router.add(Verb::get, "/apiv1/user/session", Access::SignedIn,
+        [this](const ApiCall &call) { return session(call); });
 }
 
 ApiAnswer UserApi::signIn(const ApiCall &call)
@@ -55,6 +59,19 @@ ApiAnswer UserApi::signOut(const ApiCall &call)
     for (const std::string &sessionId : m_data.signIns.remove(call.signIn.id))
         m_fleet.endSession(sessionId, false);
     return {};
+}
+
+ApiAnswer UserApi::session(const ApiCall &call) const
+{
+    const std::optional<User> user = m_data.users.findById(call.signIn.userId);
+    if (!user)
+        throw ApiError(ApiCode::NotSignedIn, "Please sign in.");
+    const auto left
+        = std::chrono::duration_cast<std::chrono::seconds>(call.signIn.expiresAt - m_data.clocks.wall());
+    return {{{QStringLiteral("user_name"), QString::fromStdString(user->name)},
+                {QStringLiteral("login_id"), QString::fromStdString(call.signIn.loginId)},
+                {QStringLiteral("expires_in"), std::max<qint64>(0, left.count())}},
+        {}};
 }
 
 } // namespace orvane::cloud

@@ -9,7 +9,8 @@ class DeviceFleet;
 class Router;
 struct ServiceData;
 
-// /apiv1/user/: signing in and out. Handlers run on the server's worker threads. Owned by ApiService.
+// /apiv1/user/: signing in and out, and whether a sign-in is still good. Handlers run on the server's worker
+// threads. Owned by ApiService.
 class UserApi
 {
 public:
@@ -20,6 +21,7 @@ public:
 private:
     ApiAnswer signIn(const ApiCall &call);
     ApiAnswer signOut(const ApiCall &call);
+    ApiAnswer session(const ApiCall &call) const;
 
     ServiceData &m_data;
     DeviceFleet &m_fleet;

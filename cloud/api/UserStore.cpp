@@ -6,6 +6,15 @@
 
 namespace orvane::cloud {
 
+namespace {
+
+User userOf(const Statement &row)
+{
+    return User{static_cast<std::int32_t>(row.integer(0)), row.text(1), row.text(2)};
+}
+
+} // namespace
+
 UserStore::UserStore(Database &database)
     : m_database(database)
 { }
@@ -34,9 +43,14 @@ std::optional<User> UserStore::find(std::string_view account) const
 {
     const Database::Lock lock = m_database.lock();
     Statement select(m_database, "SELECT id, account, name FROM users WHERE account = ?", account);
-    if (!select.step())
-        return std::nullopt;
-    return User{static_cast<std::int32_t>(select.integer(0)), select.text(1), select.text(2)};
+    return select.step() ? std::optional<User>(userOf(select)) : std::nullopt;
+}
+
+std::optional<User> UserStore::findById(std::int32_t id) const
+{
+    const Database::Lock lock = m_database.lock();
+    Statement select(m_database, "SELECT id, account, name FROM users WHERE id = ?", std::int64_t{id});
+    return select.step() ? std::optional<User>(userOf(select)) : std::nullopt;
 }
 
 std::optional<User> UserStore::authenticate(std::string_view account, std::string_view password) const
@@ -48,7 +62,7 @@ std::optional<User> UserStore::authenticate(std::string_view account, std::strin
         Statement select(
             m_database, "SELECT id, account, name, password_hash FROM users WHERE account = ?", account);
         if (select.step()) {
-            user = User{static_cast<std::int32_t>(select.integer(0)), select.text(1), select.text(2)};
+            user = userOf(select);
             hash = select.text(3);
         }
     }

@@ -27,6 +27,7 @@ public:
     // Adds an account; the password is stored as a salted hash. Throws also when the account exists.
     User create(const std::string &account, const std::string &name, std::string_view password);
     std::optional<User> find(std::string_view account) const;
+    std::optional<User> findById(std::int32_t id) const;
     // The user if the password is right. Takes tens of milliseconds, also for an unknown account, so that the
     // time does not tell which accounts exist. The database is not locked meanwhile.
     std::optional<User> authenticate(std::string_view account, std::string_view password) const;

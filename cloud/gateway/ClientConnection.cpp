@@ -93,6 +93,12 @@ void ClientConnection::end(EndCode code, const std::string &reason)
         [code, reason](ClientConnection &self) { self.endNow(server::sessionEnd(code, reason), reason); });
 }
 
+void ClientConnection::endSession(bool expired)
+{
+    end(expired ? EndCode::Expired : EndCode::Closed,
+        expired ? "the device's time is over" : "the session was given back");
+}
+
 void ClientConnection::cut()
 {
     onNetworkThread([](ClientConnection &self) { self.close("cut on request"); });
@@ -304,7 +310,30 @@ void ClientConnection::onLoginAnswer(const client::Login &login, LoginAnswer ans
     qCInfo(gatewayLog, "connection %llu: signed in to %s", static_cast<unsigned long long>(m_id),
         m_device->padCode().c_str());
     m_device->join({m_id, login.sessionId, shared_from_this(), m_counters});
+    checkAgain(login);
     read();
+}
+
+// Whoever ends a session first makes it invalid and then looks for its connections in the registry. A session
+// that ended between its check and the registration was not found there; from now on it would be.
+void ClientConnection::checkAgain(const client::Login &login)
+{
+    m_check(login, [self = shared_from_this()](const LoginAnswer &answer) { self->onSecondAnswer(answer); });
+}
+
+void ClientConnection::onSecondAnswer(const LoginAnswer &answer)
+{
+    switch (answer.code) {
+    case LoginCode::Ok:
+        return;
+    case LoginCode::Busy:
+        return end(EndCode::Shutdown, answer.reason); // the client may try again
+    case LoginCode::Expired:
+        return endSession(true);
+    case LoginCode::UnknownSession:
+    case LoginCode::UnsupportedVersion:
+        return endSession(false);
+    }
 }
 
 // --- Signed in ---

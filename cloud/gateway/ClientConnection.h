@@ -39,7 +39,7 @@ class ClientConnection : public ClientLink, public std::enable_shared_from_this<
 {
 public:
     // Decides about a login, away from the network thread, and answers on the network thread: the device, or
-    // why not.
+    // why not. Asked a second time once the connection is registered, see checkAgain().
     struct LoginAnswer
     {
         LoginCode code = LoginCode::UnknownSession;
@@ -63,6 +63,7 @@ public:
     void accept(std::string loginResult) override;
     void refuse(LoginCode code, const std::string &reason) override;
     void end(EndCode code, const std::string &reason) override;
+    void endSession(bool expired); // the session is over: given back, or its device's time has run out
     void cut(); // closes the socket at once, without a word
     void stall(std::chrono::milliseconds duration);
     void limitSending(int kbitPerSec); // 0 = no limit
@@ -86,6 +87,8 @@ private:
     void onMessage();
     void beforeLogin(ClientMessage &message);
     void onLoginAnswer(const client::Login &login, LoginAnswer answer);
+    void checkAgain(const client::Login &login);
+    void onSecondAnswer(const LoginAnswer &answer);
     void whileSignedIn(ClientMessage &message, std::size_t bytes);
     void onPong(const client::Pong &pong);
     void toDevice(ClientMessage &message, std::size_t bytes);

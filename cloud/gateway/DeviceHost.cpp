@@ -53,10 +53,10 @@ DeviceHost::DeviceHost(std::string padCode, const std::string &name, const Execu
 {
     // The device calls these while it is being used, that is with the mutex held.
     m_device.onSensorRequest = [this](int inputType, int state, int width, int height) {
-        m_events.push_back(SensorEvent{inputType, state, width, height});
+        m_events.emplace_back(SensorEvent{inputType, state, width, height});
     };
-    m_device.onClipboard = [this](const std::string &text) { m_events.push_back(ClipboardEvent{text}); };
-    m_device.onRotation = [this](int rotation) { m_events.push_back(RotationEvent{rotation}); };
+    m_device.onClipboard = [this](const std::string &text) { m_events.emplace_back(ClipboardEvent{text}); };
+    m_device.onRotation = [this](int rotation) { m_events.emplace_back(RotationEvent{rotation}); };
 }
 
 // --- Any thread, in order ---

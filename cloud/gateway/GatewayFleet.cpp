@@ -241,8 +241,7 @@ bool GatewayFleet::reboot(const std::string &padCode)
 void GatewayFleet::endSession(const std::string &sessionId, bool expired)
 {
     for (const auto &connection : m_registry.withSession(sessionId)) {
-        connection->end(expired ? EndCode::Expired : EndCode::Closed,
-            expired ? "the device's time is over" : "the session was given back");
+        connection->endSession(expired);
     }
 }
 

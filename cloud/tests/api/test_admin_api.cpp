@@ -96,6 +96,66 @@ TEST_F(AdminApiTest, expireEndsTheDevicesTimeAtOnce)
     EXPECT_EQ(act(headers, "100002", "device_apply").code(), 200);
 }
 
+TEST_F(AdminApiTest, remainingSetsTheEndOfTheDevicesTime)
+{
+    const Headers headers = signedIn();
+    const std::string session = apply(headers, "100001");
+    const auto listed = [&] {
+        return get("/apiv1/device/list", headers).data().value("devices").toArray().at(0).toObject();
+    };
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", R"({"seconds":400})").code(), 200);
+    EXPECT_EQ(listed().value("remaining_seconds").toInt(), 400);
+    EXPECT_EQ(listed().value("state").toString(), "online");
+    EXPECT_TRUE(m_fleet->endedSessions().empty());
+
+    m_time.advance(std::chrono::milliseconds(399'001));
+    EXPECT_EQ(listed().value("remaining_seconds").toInt(), 0);
+    EXPECT_EQ(listed().value("state").toString(), "online");
+    // More time than was left: nothing ends at the old moment.
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", R"({"seconds":1000000000})").code(), 200);
+    m_time.advance(std::chrono::seconds(10));
+    EXPECT_EQ(act(headers, "100001", "device_apply").code(), 200);
+    EXPECT_TRUE(m_fleet->endedSessions().empty());
+
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", R"({"seconds":0})").code(), 200);
+    EXPECT_THAT(m_fleet->endedSessions(), testing::Contains(FakeFleet::EndedSession{session, true}));
+    EXPECT_EQ(listed().value("state").toString(), "expired");
+    // Prolonged: the session that was never given back is good again.
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", R"({"seconds":60})").code(), 200);
+    EXPECT_EQ(listed().value("state").toString(), "online");
+    EXPECT_EQ(stateOf(session, "VM100001", m_data->users.find("demo")->id), SessionState::Valid);
+}
+
+TEST_F(AdminApiTest, theEndOfTimeIsNoticedThoughNobodyAsks)
+{
+    const std::string session = apply(signedIn(), "100001");
+    const std::string stays = apply(signedIn(), "100002");
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", R"({"seconds":400})").code(), 200);
+    m_time.advance(std::chrono::seconds(400));
+    ASSERT_TRUE(m_fleet->waitForEndedSessions(1));
+    EXPECT_THAT(m_fleet->endedSessions(), testing::ElementsAre(FakeFleet::EndedSession{session, true}));
+
+    // The watch is not done after the first one.
+    EXPECT_EQ(postText("/admin/devices/VM100002/remaining", R"({"seconds":5})").code(), 200);
+    m_time.advance(std::chrono::seconds(5));
+    ASSERT_TRUE(m_fleet->waitForEndedSessions(2));
+    EXPECT_THAT(m_fleet->endedSessions(),
+        testing::ElementsAre(FakeFleet::EndedSession{session, true}, FakeFleet::EndedSession{stays, true}));
+}
+
+TEST_F(AdminApiTest, remainingFieldsAreChecked)
+{
+    for (const char *seconds : {"-1", "1000000001", "1.5", "\"400\"", "true", "null", "[]", "{}", "1e300"}) {
+        const Reply reply
+            = postText("/admin/devices/VM100001/remaining", R"({"seconds":)" + std::string(seconds) + "}");
+        EXPECT_EQ(reply.code(), 400) << seconds;
+        EXPECT_THAT(reply.message(), testing::HasSubstr("seconds")) << seconds;
+    }
+    EXPECT_EQ(postText("/admin/devices/VM100001/remaining", "{}").code(), 400);
+    EXPECT_EQ(m_data->devices.findByPadCode("VM100001")->expiresAt - m_data->clocks.wall(),
+        std::chrono::hours(24 * 92));
+}
+
 TEST_F(AdminApiTest, connectionsAreDisturbed)
 {
     EXPECT_EQ(postText("/admin/connections/cut", "{}").data().value("connections").toInt(), 3);
@@ -142,7 +202,7 @@ TEST_F(AdminApiTest, unknownDevicesAreNotFound)
 {
     for (const char *what : {"input", "app", "screen"})
         EXPECT_EQ(get(std::string("/admin/devices/VM1/") + what).code(), 404) << what;
-    for (const char *what : {"app", "rotate", "camera", "expire"})
+    for (const char *what : {"app", "rotate", "camera", "expire", "remaining"})
         EXPECT_EQ(postText(std::string("/admin/devices/VM1/") + what, "{}").code(), 404) << what;
     EXPECT_EQ(get("/admin/devices/%00%ff/app").code(), 404);
 }

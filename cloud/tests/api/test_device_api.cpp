@@ -52,6 +52,7 @@ TEST_F(DeviceApiTest, theListDescribesTheUsersDevices)
     EXPECT_EQ(first.value("device_id").toString(), "VM100001");
     EXPECT_EQ(first.value("device_name").toString(), "VM100001");
     EXPECT_EQ(first.value("alias_name").toString(), "Aurora");
+    EXPECT_EQ(first.value("node_type").toString(), "vm");
     EXPECT_EQ(first.value("state").toString(), "online");
     EXPECT_EQ(first.value("pay_mode").toString(), "month");
 
@@ -61,6 +62,16 @@ TEST_F(DeviceApiTest, theListDescribesTheUsersDevices)
     EXPECT_EQ(now.toSecsSinceEpoch(), 1795253400);
     EXPECT_EQ(now.secsTo(end), first.value("remaining_seconds").toInt());
     EXPECT_EQ(first.value("remaining_seconds").toInt(), 92 * 86400);
+}
+
+TEST_F(DeviceApiTest, aDeviceKeepsItsUuid)
+{
+    // What SHA-1 makes of the service's namespace and the pad code: a page may have kept it.
+    EXPECT_EQ(listed("100001").value("uuid").toString(), "7cf34ca8-d712-58bc-8771-1336d943555f");
+    std::set<QString> uuids;
+    for (const QJsonValue device : list(m_demo))
+        uuids.insert(device.toObject().value("uuid").toString());
+    EXPECT_EQ(uuids.size(), 12u);
 }
 
 TEST_F(DeviceApiTest, everySeededDeviceIsUsableAndHasANameOfItsOwn)

@@ -132,6 +132,37 @@ TEST_F(PersistenceTest, aNewerDatabaseIsLeftAlone)
     }
 }
 
+TEST_F(PersistenceTest, aDatabaseOfTheFirstVersionIsBroughtUpToDate)
+{
+    const Headers headers = signedIn();
+    const std::string session = apply(headers, "100001");
+    const int userId = m_data->users.find("demo")->id;
+    const std::vector<Device> devices = m_data->devices.all();
+    {
+        const Database::Lock lock = m_data->database.lock();
+        for (const char *table :
+            {"device_group_members", "device_groups", "seeded_groups", "release", "release_files"})
+            m_data->database.execute((std::string("DROP TABLE ") + table).c_str());
+        m_data->database.execute("PRAGMA user_version = 1");
+    }
+    restart();
+    EXPECT_EQ(stateOf(session, "VM100001", userId), SessionState::Valid);
+    ASSERT_EQ(m_data->devices.all().size(), devices.size());
+    EXPECT_EQ(m_data->devices.all().front().expiresAt, devices.front().expiresAt);
+    const Reply groups = get("/apiv1/device/ccGroupList", headers);
+    EXPECT_EQ(groups.data().value("groups").toArray().size(), 2);
+}
+
+TEST_F(PersistenceTest, groupsAreSeededOfTheDevicesThatThereAre)
+{
+    const QTemporaryDir folder;
+    ServiceData data(folder.path().toStdString(), m_time.clocks());
+    prepareDemoData(data, 3);
+    const std::vector<DeviceGroup> groups = data.groups.ofUser(data.users.find("demo")->id);
+    ASSERT_EQ(groups.size(), 1u);
+    EXPECT_THAT(groups.front().serviceIds, testing::ElementsAre("100001", "100002", "100003"));
+}
+
 TEST_F(PersistenceTest, anUnusableFolderIsReported)
 {
     EXPECT_THROW(ServiceData{"/proc/nowhere"}, DatabaseError);

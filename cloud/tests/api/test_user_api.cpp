@@ -151,4 +151,34 @@ TEST_F(UserApiTest, theEndOfASignInEndsItsStreams)
     EXPECT_THAT(m_fleet->endedSessions(), testing::Contains(FakeFleet::EndedSession{session, false}));
 }
 
+TEST_F(UserApiTest, theSessionTellsWhoAndForHowLong)
+{
+    const Headers headers = signedIn("second");
+    m_time.advance(std::chrono::hours(24));
+    const Reply reply = get("/apiv1/user/session", headers);
+    EXPECT_EQ(reply.code(), 200);
+    EXPECT_EQ(reply.data().value("user_name").toString(), "Second");
+    EXPECT_EQ(reply.data().value("login_id").toString().toStdString(), headers.at("login-id"));
+    EXPECT_EQ(reply.data().value("expires_in").toInt(), 29 * 86400);
+    EXPECT_EQ(reply.body.find(headers.at("access-token")), std::string::npos);
+
+    m_time.advance(std::chrono::hours(29 * 24) - std::chrono::milliseconds(1));
+    EXPECT_EQ(get("/apiv1/user/session", headers).data().value("expires_in").toInt(-1), 0);
+    m_time.advance(std::chrono::milliseconds(1));
+    EXPECT_EQ(get("/apiv1/user/session", headers).code(), 401);
+}
+
+TEST_F(UserApiTest, withoutASignInThereIsNoSession)
+{
+    const Headers headers = signedIn();
+    EXPECT_EQ(get("/apiv1/user/session").code(), 401);
+    EXPECT_EQ(get("/apiv1/user/session",
+                  {{"access-token", headers.at("access-token")}, {"login-id", "0123456789abcdef01234567"}})
+                  .code(),
+        401);
+    EXPECT_EQ(get("/apiv1/user/session", headers).code(), 200);
+    post("/apiv1/user/logout", {}, headers);
+    EXPECT_EQ(get("/apiv1/user/session", headers).code(), 401);
+}
+
 } // namespace

@@ -13,7 +13,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <atomic>
+#include <functional>
+#include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace orvane::cloud::test {
 
@@ -23,11 +27,31 @@ class Sessions : public SessionStore
 public:
     SessionState check(const StreamSession &session) override
     {
+        const SessionState state = lookUp(session);
+        // From here on the gateway works with what has been looked up, whatever happens meanwhile.
+        if (const auto event = std::exchange(afterLookUp, nullptr)) {
+            event();
+        }
+        return state;
+    }
+
+    // What becomes of the known sessions; SessionState::Valid while they are good.
+    std::atomic<SessionState> known{SessionState::Valid};
+    std::atomic<bool> broken{false}; // looking up fails
+    // Happens once, while a session's check is under way. Set before the client's login.
+    std::function<void()> afterLookUp;
+
+private:
+    SessionState lookUp(const StreamSession &session) const
+    {
+        if (broken) {
+            throw std::runtime_error("out of order");
+        }
         if (session.sessionId == "old") {
             return SessionState::Expired;
         }
-        const bool known = session.userId == 7 && session.sessionId.compare(0, 3, "abc") == 0;
-        return known ? SessionState::Valid : SessionState::Unknown;
+        const bool isKnown = session.userId == 7 && session.sessionId.compare(0, 3, "abc") == 0;
+        return isKnown ? known.load() : SessionState::Unknown;
     }
 };
 

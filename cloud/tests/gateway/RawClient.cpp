@@ -87,9 +87,12 @@ void RawClient::answer(const Message &message)
 
 std::optional<RawClient::Message> RawClient::receiveUntil(const std::function<bool(const Message &)> &wanted)
 {
-    while (const auto bytes = receiveBytes()) {
+    // Pings keep coming: the limit is for the wanted message.
+    const auto deadline = std::chrono::steady_clock::now() + Limit;
+    while (std::chrono::steady_clock::now() < deadline) {
+        const auto bytes = receiveBytes();
         Message message;
-        if (!message.ParseFromString(*bytes)) {
+        if (!bytes || !message.ParseFromString(*bytes)) {
             return std::nullopt;
         }
         answer(message);

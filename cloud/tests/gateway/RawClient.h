@@ -35,7 +35,8 @@ public:
     // The next message that is not a ping (those are answered) nor a video frame (acknowledged, if asked
     // for).
     std::optional<Message> receive();
-    // The next message that satisfies the predicate; others are answered and dropped. None as above.
+    // The next message that satisfies the predicate; others are answered and dropped. None as above, or when
+    // it did not come within the limit.
     std::optional<Message> receiveUntil(const std::function<bool(const Message &)> &wanted);
     std::optional<swplay::wire::VideoFrame> receiveFrame();
     // Reads to the end. False when the connection was still there at the limit.

@@ -48,6 +48,44 @@ TEST_F(GatewayFleetTest, RefusedLoginsSayWhyAndEnd)
     EXPECT_TRUE(fleet->stats().empty());
 }
 
+// What ends a session looks for its connections. One whose login is still being checked is not among them.
+TEST_F(GatewayFleetTest, ASessionGivenBackDuringItsLoginIsEnded)
+{
+    start();
+    sessions.afterLookUp = [this] {
+        sessions.known = SessionState::Unknown;
+        fleet->endSession("abc", false);
+    };
+    auto client = connect();
+    ASSERT_TRUE(client->send(LoginBytes));
+    expectEnd(*client, SessionEnd::CLOSED, "the session was given back");
+    EXPECT_TRUE(eventually([&] { return fleet->stats().empty(); }));
+}
+
+TEST_F(GatewayFleetTest, ASessionThatExpiresDuringItsLoginIsEnded)
+{
+    start();
+    sessions.afterLookUp = [this] {
+        sessions.known = SessionState::Expired;
+        fleet->endSession("abc", true);
+    };
+    auto client = connect();
+    ASSERT_TRUE(client->send(LoginBytes));
+    expectEnd(*client, SessionEnd::EXPIRED, "the device's time is over");
+    EXPECT_TRUE(eventually([&] { return fleet->stats().empty(); }));
+}
+
+TEST_F(GatewayFleetTest, WhoCannotBeCheckedAgainMayTryLater)
+{
+    start();
+    sessions.afterLookUp = [this] { sessions.broken = true; };
+    auto client = connect();
+    ASSERT_TRUE(client->send(LoginBytes));
+    expectEnd(*client, SessionEnd::SHUTDOWN, "the session cannot be looked up");
+    sessions.broken = false;
+    EXPECT_TRUE(signIn());
+}
+
 TEST_F(GatewayFleetTest, InputBeforeTheLoginEndsTheConnection)
 {
     start();
