@@ -2,7 +2,7 @@ import { onBeforeUnmount, onMounted } from 'vue'
 import { FingerBoard } from '@/input/FingerBoard'
 import { remotePixel, type Point, type Size } from '@/input/geometry'
 import { KeyInput } from '@/input/KeyInput'
-import { WheelGestures } from '@/input/WheelGesture'
+import { WheelGestures, type WheelTurn } from '@/input/WheelGesture'
 import type { StreamClient } from '@/stream/StreamClient'
 
 const MAIN_BUTTON = 0
@@ -19,6 +19,30 @@ export interface RemoteScreen {
 }
 
 type LegacyWheelEvent = WheelEvent & { wheelDeltaX?: number; wheelDeltaY?: number }
+
+// A mouse wheel turns in whole notches; what does not comes from a touch pad, which tells pixels.
+function wheelTurn(event: LegacyWheelEvent): WheelTurn {
+  const angle = { x: event.wheelDeltaX ?? 0, y: event.wheelDeltaY ?? 0 }
+  const notches = angle.x % UNITS_PER_NOTCH === 0 && angle.y % UNITS_PER_NOTCH === 0
+  const pixels = { x: -Math.round(event.deltaX), y: -Math.round(event.deltaY) }
+  return { angle, pixels: notches ? null : pixels, pinch: event.ctrlKey }
+}
+
+// Calls back when the window loses the focus, is hidden, or the component goes.
+function useWhenLeft(leave: () => void): void {
+  const onVisibility = () => {
+    if (document.hidden) leave()
+  }
+  onMounted(() => {
+    window.addEventListener('blur', leave)
+    document.addEventListener('visibilitychange', onVisibility)
+  })
+  onBeforeUnmount(() => {
+    leave()
+    window.removeEventListener('blur', leave)
+    document.removeEventListener('visibilitychange', onVisibility)
+  })
+}
 
 // Turns pointers, wheel, keys, input methods and the clipboard into input for the remote device. Whatever is held
 // down is let go when the window loses the focus or is hidden.
@@ -47,23 +71,12 @@ export function useRemoteInput(screen: RemoteScreen) {
     return remotePixel(spot, screen.size(), screen.landscape())
   }
 
-  function letGo(): void {
+  const letGo = () => {
     gestures.stop()
     board.releaseAll()
     keys.releaseAll()
   }
-  function onVisibility(): void {
-    if (document.hidden) letGo()
-  }
-  onMounted(() => {
-    window.addEventListener('blur', letGo)
-    document.addEventListener('visibilitychange', onVisibility)
-  })
-  onBeforeUnmount(() => {
-    letGo()
-    window.removeEventListener('blur', letGo)
-    document.removeEventListener('visibilitychange', onVisibility)
-  })
+  useWhenLeft(letGo)
 
   return {
     keys,
@@ -81,19 +94,9 @@ export function useRemoteInput(screen: RemoteScreen) {
     onPointerup(event: PointerEvent): void {
       board.release(event.pointerId)
     },
-    onWheel(event: LegacyWheelEvent): void {
+    onWheel(event: WheelEvent): void {
       const centre = pixelAt(event)
-      if (!centre) return
-      const angle = { x: event.wheelDeltaX ?? 0, y: event.wheelDeltaY ?? 0 }
-      const notches = angle.x % UNITS_PER_NOTCH === 0 && angle.y % UNITS_PER_NOTCH === 0
-      const pixels = notches ? null : { x: -event.deltaX, y: -event.deltaY }
-      const rounded = pixels && { x: Math.round(pixels.x), y: Math.round(pixels.y) }
-      gestures.turn(
-        { angle, pixels: rounded, pinch: event.ctrlKey },
-        centre,
-        screen.size(),
-        screen.landscape(),
-      )
+      if (centre) gestures.turn(wheelTurn(event), centre, screen.size(), screen.landscape())
     },
     letGo,
   }
