@@ -1,5 +1,5 @@
 import type { ApiClient } from '@/api/ApiClient'
-import { ApiError, isAborted } from '@/api/ApiError'
+import { API_CODE, ApiError, isAborted } from '@/api/ApiError'
 import {
   BROWSER_ENVIRONMENT,
   StreamClient,
@@ -107,7 +107,7 @@ export class DeviceSession {
     } catch (error) {
       if (isAborted(error) || signal.aborted) return
       if (!(error instanceof ApiError)) throw error
-      this.fail(apiErrorText(error), error.message)
+      this.fail(error.code === API_CODE.expired ? END_TEXT.expired : apiErrorText(error), error.message)
     }
   }
 
