@@ -68,7 +68,7 @@ describe('ApiClient answers', () => {
       listedDevice('1', 'Aurora', { state: 'restarting', remaining_seconds: 5, picture: '/p' }),
       listedDevice('2', ''),
     )
-    await expect(api.listDevices()).resolves.toEqual([
+    await expect(api.listDevices()).resolves.toMatchObject([
       { serviceId: '1', name: 'Aurora', state: 'restarting', remainingSeconds: 5, picture: '/p' },
       { serviceId: '2', name: 'VM2', state: 'online', remainingSeconds: 6_143_400, picture: '' },
     ])

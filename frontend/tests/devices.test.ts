@@ -2,6 +2,7 @@ import { flushPromises, type DOMWrapper } from '@vue/test-utils'
 import { beforeEach, describe, expect, it, vi } from 'vitest'
 import { nextTick } from 'vue'
 import { TOAST_MS } from '@/app/ToastStore'
+import { SIGN_OUT_PATIENCE_MS } from '@/composables/useSignOut'
 import { REFRESH_INTERVAL_MS } from '@/devices/DeviceStore'
 import { FakeService, listedDevice } from './support/FakeService'
 import { mountApp, SESSION, type AppUnderTest } from './support/mountApp'
@@ -262,8 +263,8 @@ describe('the keyboard in the cards', () => {
   it('has one stop for Tab, and its buttons after it', async () => {
     const { page } = await mountFour()
     expect(tabStops(page)).toEqual(['1'])
-    expect(card(page, '1').findAll('button[tabindex="0"]')).toHaveLength(2)
-    expect(page.findAll('li button[tabindex="0"]')).toHaveLength(2)
+    expect(card(page, '1').findAll('button[tabindex="0"]')).toHaveLength(3)
+    expect(page.findAll('li button[tabindex="0"]')).toHaveLength(3)
   })
 
   it('moves with the arrows, Home and End', async () => {
@@ -414,7 +415,28 @@ describe('the end of a session', () => {
     expect(part('message').text()).toBe('')
   })
 
-  it('does not wait for the service, and logs when it could not be told', async () => {
+  it('waits a moment for the service, no longer', async () => {
+    vi.useFakeTimers()
+    const { page, part, service, calls } = await mountDevices(listedDevice('1', 'Aurora'))
+    service.answers['/apiv1/user/logout'] = 'hang'
+    await part('sign-out').trigger('click')
+    await part('sign-out').trigger('click')
+    await vi.advanceTimersByTimeAsync(SIGN_OUT_PATIENCE_MS - 1)
+    expect(page.find('form').exists()).toBe(false)
+    await vi.advanceTimersByTimeAsync(1)
+    expect(page.find('form').exists()).toBe(true)
+    expect(calls('logout')).toHaveLength(1)
+    expect(service.requestsTo('/apiv1/user/logout')).toHaveLength(1)
+  })
+
+  it('has the client close its windows and go back to the sign-in', async () => {
+    const { part, bridge } = await mountDevices(listedDevice('1', 'Aurora'))
+    await part('sign-out').trigger('click')
+    await flushPromises()
+    expect(bridge.calls).toEqual([expect.objectContaining({ name: 'logout' }), expect.anything()])
+  })
+
+  it('needs no service, and logs when it could not be told', async () => {
     const { page, part, service, calls } = await mountDevices(listedDevice('1', 'Aurora'))
     service.answers['/apiv1/user/logout'] = 'unreachable'
     await part('sign-out').trigger('click')

@@ -1,12 +1,12 @@
 import { describe, expect, it } from 'vitest'
-import { createTexts } from '@/i18n'
+import { Texts } from '@/i18n'
 import { remainingTime } from '@/util/remainingTime'
 
 const HOUR = 3600
 const DAY = 24 * HOUR
 
 function say(seconds: number): string {
-  const { t } = createTexts().global
+  const { t } = new Texts().plugin.global
   const { key, ...values } = remainingTime(seconds)
   return t(`remaining.${key}`, values, values.days)
 }

@@ -6,6 +6,7 @@ import { mountApp, SESSION } from './support/mountApp'
 
 const LOGIN = '/apiv1/user/login'
 const LIST = '/apiv1/device/list'
+const SESSION_PATH = '/apiv1/user/session'
 
 describe('signing in', () => {
   it('starts in the account field, and Tab leads over the password to the button', async () => {
@@ -153,7 +154,7 @@ describe('the session of an earlier start', () => {
     expect(page.get('h3').text()).toBe('Aurora')
     expect(calls('setLoginParams')).toHaveLength(1)
     expect(calls('setWindowSize')).toHaveLength(1)
-    expect(service.requestsTo(LIST)[0]!.headers).toMatchObject({
+    expect(service.requestsTo(SESSION_PATH)[0]!.headers).toMatchObject({
       'access-token': 'token-1',
       'login-id': 'login-1',
     })
@@ -161,7 +162,7 @@ describe('the session of an earlier start', () => {
 
   it('is tried in sight of the user', async () => {
     const service = new FakeService()
-    service.answers[LIST] = 'hang'
+    service.answers[SESSION_PATH] = 'hang'
     const { page, part } = await mountApp({ service, remembered: SESSION })
     expect(part('restoring').text()).toBe('Signing you in…')
     expect(page.find('form').exists()).toBe(false)
@@ -169,7 +170,7 @@ describe('the session of an earlier start', () => {
 
   it('is forgotten when the service refuses it', async () => {
     const service = new FakeService()
-    service.answers[LIST] = { code: 401, msg: 'no' }
+    service.answers[SESSION_PATH] = { code: 401, msg: 'no' }
     const { page, part, calls } = await mountApp({ service, remembered: SESSION })
     expect(part('message').text()).toBe('Your session has ended. Please sign in again.')
     expect(part('retry').exists()).toBe(false)
@@ -181,10 +182,11 @@ describe('the session of an earlier start', () => {
   it('is kept, to be tried again, when the service cannot be reached', async () => {
     vi.spyOn(console, 'warn').mockImplementation(() => undefined)
     const service = new FakeService()
-    service.answers[LIST] = 'unreachable'
+    service.answers[SESSION_PATH] = 'unreachable'
     const { page, part } = await mountApp({ service, remembered: SESSION })
     expect(part('message').text()).toBe('Can’t reach the service. Check your connection.')
     expect(localStorage.getItem('accessToken')).toBe('token-1')
+    service.answers[SESSION_PATH] = { code: 200, data: {} }
     service.setDevices(listedDevice('1', 'Aurora'))
     await part('retry').trigger('click')
     await flushPromises()

@@ -1,5 +1,10 @@
 import { API_CODE, ApiError } from './ApiError'
+import { parseUpdate, type ClientUpdate } from './ClientUpdate'
 import { parseDevices, type Device } from './Device'
+import { parseGroups, type DeviceGroup } from './DeviceGroup'
+import { isObject } from './json'
+import { parseStreamTarget } from './streamTarget'
+import type { StreamTarget } from '@/stream/StreamClient'
 
 export const DEFAULT_API_BASE_URL = 'http://127.0.0.1:8180'
 export const REQUEST_TIMEOUT_MS = 10_000
@@ -46,6 +51,16 @@ function parseEnvelope(value: unknown, httpStatus: number): Envelope {
   }
 }
 
+// Minutes, descending; nothing that makes no sense.
+function parseExpireNotices(data: unknown): number[] {
+  const list: unknown = isObject(data) ? data.expire_notice_minutes : undefined
+  if (!Array.isArray(list)) throw new ApiError('malformed', 'the settings have no "expire_notice_minutes"')
+  const minutes = (list as unknown[]).filter(
+    (each): each is number => typeof each === 'number' && Number.isFinite(each) && each > 0,
+  )
+  return [...new Set(minutes)].sort((a, b) => b - a)
+}
+
 function parseSignIn(data: unknown): SignInResult {
   const { access_token, login_id, user_name } = (data ?? {}) as Record<string, unknown>
   if (typeof access_token !== 'string' || typeof login_id !== 'string' || !access_token || !login_id)
@@ -73,18 +88,74 @@ export class ApiClient {
     await this.request('POST', '/apiv1/user/logout', {})
   }
 
+  // Resolves when the identity is still good; refused with API_CODE.notSignedIn when it is not.
+  async checkSession(signal?: AbortSignal): Promise<void> {
+    await this.request('GET', '/apiv1/user/session', undefined, signal)
+  }
+
+  // The minutes of remaining time at which to warn, descending.
+  async expireNoticeMinutes(): Promise<number[]> {
+    return parseExpireNotices(await this.request('GET', '/apiv1/client/config'))
+  }
+
+  // A newer client than this one, or null.
+  async findUpdate(): Promise<ClientUpdate | null> {
+    return parseUpdate(await this.request('GET', '/apiv1/client/update'))
+  }
+
   async listDevices(signal?: AbortSignal): Promise<Device[]> {
     return parseDevices(await this.request('GET', '/apiv1/device/list', undefined, signal))
   }
 
   async restartDevice(serviceId: string): Promise<void> {
-    const body = { service_id: serviceId, action_type: 'reboot' }
-    await this.request('POST', '/apiv1/device/actionDevice', body)
+    await this.deviceAction(serviceId, 'reboot')
+  }
+
+  // Those of the devices that can be; refused only if there is none.
+  async restartDevices(serviceIds: string[]): Promise<void> {
+    const body = { service_ids: serviceIds, action_type: 'reboot' }
+    await this.request('POST', '/apiv1/device/batchActionDevice', body)
+  }
+
+  // Grants a streaming session with the device.
+  async applyForDevice(serviceId: string, signal?: AbortSignal): Promise<StreamTarget> {
+    return parseStreamTarget(await this.deviceAction(serviceId, 'device_apply', signal))
+  }
+
+  // Gives the user's sessions with the device back.
+  async unbindDevice(serviceId: string): Promise<void> {
+    await this.deviceAction(serviceId, 'device_unbind')
+  }
+
+  async listGroups(signal?: AbortSignal): Promise<DeviceGroup[]> {
+    return parseGroups(await this.request('GET', '/apiv1/device/ccGroupList', undefined, signal))
+  }
+
+  async renameGroup(id: string, name: string): Promise<void> {
+    await this.groupAction({ action_type: 'rename', cc_group_id: id, cc_group_name: name })
+  }
+
+  async deleteGroup(id: string): Promise<void> {
+    await this.groupAction({ action_type: 'delete', cc_group_id: id })
   }
 
   // Address of a picture whose path the service gave; "" for none.
   pictureUrl(path: string): string {
     return path ? this.options.baseUrl + path : ''
+  }
+
+  // Root of the API, without a trailing slash.
+  get baseUrl(): string {
+    return this.options.baseUrl
+  }
+
+  private deviceAction(serviceId: string, action: string, signal?: AbortSignal): Promise<unknown> {
+    const body = { service_id: serviceId, action_type: action }
+    return this.request('POST', '/apiv1/device/actionDevice', body, signal)
+  }
+
+  private groupAction(body: object): Promise<unknown> {
+    return this.request('POST', '/apiv1/device/actionCcGroup', body)
   }
 
   private async request(

@@ -19,7 +19,13 @@ export class ApiError extends Error {
 }
 
 // The answer codes that the front end tells apart.
-export const API_CODE = { ok: 200, notSignedIn: 401, wrongPassword: 403, tooManyFailures: 429 } as const
+export const API_CODE = {
+  ok: 200,
+  notSignedIn: 401,
+  wrongPassword: 403,
+  expired: 410,
+  tooManyFailures: 429,
+} as const
 
 export function isAborted(error: unknown): boolean {
   return error instanceof ApiError && error.kind === 'aborted'

@@ -1,4 +1,5 @@
 import { ApiError } from './ApiError'
+import { isObject, textOf as text } from './json'
 
 const DEVICE_STATES = ['online', 'restarting', 'expired'] as const
 
@@ -6,20 +7,21 @@ export type DeviceState = (typeof DEVICE_STATES)[number]
 
 export interface Device {
   serviceId: string
+  // The name that people gave it, or else the service's.
   name: string
+  deviceId: string
+  // "vm" and other kinds of machine.
+  nodeType: string
+  uuid: string
+  payMode: string
+  // Local times "yyyy-MM-dd hh:mm:ss": when the user's time ends, and the service's present time.
+  expireTime: string
+  networkTime: string
   state: DeviceState
   // Whole or broken seconds; 0 or less when the time is over.
   remainingSeconds: number
   // Path of a picture of the screen below the API root; "" if there is none. A new picture has a new path.
   picture: string
-}
-
-function isObject(value: unknown): value is Record<string, unknown> {
-  return typeof value === 'object' && value !== null && !Array.isArray(value)
-}
-
-function text(value: unknown): string {
-  return typeof value === 'string' ? value : ''
 }
 
 function parseDevice(entry: unknown): Device | undefined {
@@ -31,6 +33,12 @@ function parseDevice(entry: unknown): Device | undefined {
   return {
     serviceId,
     name: text(entry.alias_name) || text(entry.device_name) || serviceId,
+    deviceId: text(entry.device_id),
+    nodeType: text(entry.node_type),
+    uuid: text(entry.uuid),
+    payMode: text(entry.pay_mode),
+    expireTime: text(entry.expire_time),
+    networkTime: text(entry.network_time),
     state,
     remainingSeconds,
     picture: text(entry.picture),

@@ -1,20 +1,25 @@
 import { createApp, watch, type App } from 'vue'
 import type { Router } from 'vue-router'
 import AppRoot from '@/AppRoot.vue'
-import { createTexts } from '@/i18n'
 import { createAppRouter, ROUTE } from './router'
 import { provideServices, type Services } from './services'
 
 // The whole application around the given services, not yet mounted.
 export function createOrvaneApp(services: Services): { app: App; router: Router } {
-  const router = createAppRouter(services.session)
+  const { session, devices, groups, expiry, bridge, texts } = services
+  const router = createAppRouter(session)
   const app = createApp(AppRoot)
-  app.use(createTexts()).use(router)
+  app.use(texts.plugin).use(router)
   provideServices(app, services)
-  watch(services.session.current, (session) => {
-    if (session) return
-    services.devices.clear()
+  watch(session.current, (current) => {
+    const { name } = router.currentRoute.value
+    if (current || name === ROUTE.deviceWindow) return
+    expiry.stop()
+    devices.clear()
+    groups.clear()
     void router.replace({ name: ROUTE.signIn })
+    // The client goes back to its sign-in window, in which the page begins anew.
+    if (name !== ROUTE.signIn) bridge.call('logout', {})
   })
   return { app, router }
 }

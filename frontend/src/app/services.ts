@@ -2,7 +2,12 @@ import { inject, type App, type InjectionKey } from 'vue'
 import type { ApiClient } from '@/api/ApiClient'
 import type { ClientBridge } from '@/bridge/ClientBridge'
 import type { DeviceStore } from '@/devices/DeviceStore'
+import type { ExpiryNotices } from '@/expiry/ExpiryNotices'
+import type { GroupStore } from '@/groups/GroupStore'
+import type { Texts } from '@/i18n'
 import type { SessionStore } from '@/session/SessionStore'
+import type { SettingsStore } from '@/settings/SettingsStore'
+import type { StreamEnvironment } from '@/stream/StreamClient'
 import type { ToastStore } from './ToastStore'
 
 // What the views work with. One of each per page; main.ts makes them, tests make their own.
@@ -10,8 +15,13 @@ export interface Services {
   api: ApiClient
   bridge: ClientBridge
   session: SessionStore
+  settings: SettingsStore
+  texts: Texts
   devices: DeviceStore
+  groups: GroupStore
+  expiry: ExpiryNotices
   toasts: ToastStore
+  streaming: StreamEnvironment
 }
 
 const SERVICES: InjectionKey<Services> = Symbol('services')

@@ -5,13 +5,18 @@ import type {
   ClientBridge,
   ClientOperations,
   OperationName,
+  WebDevice,
 } from './ClientBridge'
 
 export const ANSWER_TIMEOUT_MS = 5000
 
-// The object that the client publishes on the web channel, and its one slot.
+// Waits for the user, however long that takes.
+const UNHURRIED: AnsweringOperation = 'getSavePath'
+
+// The object that the client publishes on the web channel, and its slots. The second one only the main window has.
 interface ClientApi {
   callJsApi(callText: string): unknown
+  onOpenWebSingleController?(device: WebDevice): unknown
 }
 
 function isClientApi(object: unknown): object is ClientApi {
@@ -42,6 +47,17 @@ export class QtClientBridge implements ClientBridge {
     this.send(name, { jsApiName: name, ...params })
   }
 
+  openWebDevice(device: WebDevice): void {
+    this.clientApi
+      .then((clientApi) => {
+        if (clientApi.onOpenWebSingleController) clientApi.onOpenWebSingleController(device)
+        else console.error('the client has no web device windows')
+      })
+      .catch(() => {
+        console.error('a web device window could not be asked for')
+      })
+  }
+
   ask<Name extends AnsweringOperation>(
     name: Name,
     params: ClientOperations[Name],
@@ -49,11 +65,12 @@ export class QtClientBridge implements ClientBridge {
     const callback = `orvaneAnswer${++lastCallbackNumber}`
     const globals = window as unknown as Record<string, unknown>
     return new Promise((resolve, reject) => {
-      const timer = setTimeout(() => {
+      const giveUp = () => {
         // An answer that comes after all must find a function, or the client's script would fail.
         globals[callback] = () => Reflect.deleteProperty(globals, callback)
         reject(new Error(`the client did not answer "${name}" within ${ANSWER_TIMEOUT_MS} ms`))
-      }, ANSWER_TIMEOUT_MS)
+      }
+      const timer = name === UNHURRIED ? undefined : setTimeout(giveUp, ANSWER_TIMEOUT_MS)
       globals[callback] = (answer: ClientAnswers[Name]) => {
         clearTimeout(timer)
         Reflect.deleteProperty(globals, callback)

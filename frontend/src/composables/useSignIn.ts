@@ -4,7 +4,7 @@ import { ApiError, isAborted } from '@/api/ApiError'
 import { ROUTE } from '@/app/router'
 import { useServices } from '@/app/services'
 import type { Session } from '@/session/SessionStore'
-import { errorText, signInErrorText, type ErrorText } from '@/util/errorText'
+import { apiErrorText, signInErrorText, type ErrorText } from '@/util/errorText'
 
 // The main view's first size, in logical pixels.
 const MAIN_WINDOW_SIZE = { width: 1120, height: 760 }
@@ -15,7 +15,7 @@ export type SignInPhase = 'idle' | 'restoring' | 'busy'
 
 // Signing in, with account and password or with the session of an earlier start, up to the main view.
 export function useSignIn() {
-  const { api, bridge, devices, session } = useServices()
+  const { api, bridge, session } = useServices()
   const router = useRouter()
   const abort = new AbortController()
   onBeforeUnmount(() => {
@@ -29,7 +29,7 @@ export function useSignIn() {
   async function enter({ accessToken, loginId }: Session): Promise<void> {
     bridge.call('setLoginParams', { 'access-token': accessToken, 'login-id': loginId })
     bridge.call('setWindowSize', MAIN_WINDOW_SIZE)
-    await router.replace({ name: ROUTE.main })
+    await router.replace({ name: ROUTE.devices })
   }
 
   async function signIn(account: string, password: string, remember: boolean): Promise<void> {
@@ -49,28 +49,31 @@ export function useSignIn() {
     }
   }
 
-  // Tries the remembered session, if there is one, by asking for the devices. What is remembered is given up only
-  // when the service refuses it.
+  // Tries the remembered session, if there is one, by asking the service about it. What is remembered is given up
+  // only when the service refuses it.
   async function restore(): Promise<void> {
     const remembered = session.remembered()
     if (!remembered || phase.value !== 'idle') return
     phase.value = 'restoring'
     error.value = null
+    restoreFailed.value = false
     session.start(remembered, true)
-    await devices.refresh()
-    phase.value = 'idle'
-    if (devices.loaded.value) {
+    try {
+      await api.checkSession(abort.signal)
       await enter(remembered)
-      return
+    } catch (failure) {
+      if (!(failure instanceof ApiError)) throw failure
+      if (isAborted(failure)) return
+      if (session.endedByService.value) {
+        error.value = SESSION_ENDED
+        return
+      }
+      restoreFailed.value = true
+      error.value = apiErrorText(failure)
+      session.suspend()
+    } finally {
+      phase.value = 'idle'
     }
-    if (session.endedByService.value) {
-      error.value = SESSION_ENDED
-      return
-    }
-    const failure = devices.error.value
-    restoreFailed.value = true
-    error.value = failure && errorText(failure)
-    session.suspend()
   }
 
   return { phase, error, canRetry: computed(() => restoreFailed.value), signIn, restore }

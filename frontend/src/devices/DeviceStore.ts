@@ -11,6 +11,8 @@ export class DeviceStore {
   readonly devices = reactive<Device[]>([])
   // Whether a list has arrived since the last clear().
   readonly loaded = shallowRef(false)
+  // Counts the lists that have arrived.
+  readonly revision = shallowRef(0)
   // Why the last refresh failed; null after one that worked.
   readonly error = shallowRef<ApiError | null>(null)
 
@@ -59,15 +61,21 @@ export class DeviceStore {
     this.error.value = null
   }
 
-  // Restarts a device and shows that at once. Rejects with an ApiError.
-  async restart(serviceId: string): Promise<void> {
-    await this.api.restartDevice(serviceId)
-    if (!this.loaded.value) return // signed out meanwhile
-    const device = this.devices.find((candidate) => candidate.serviceId === serviceId)
-    if (device) device.state = 'restarting'
-    // A list that was asked for before the restart would show the device as it was.
+  // Asks anew, even if a request is under way: what it brings may be out of date.
+  async reload(): Promise<void> {
     this.giveUpRequest()
     await this.refresh()
+  }
+
+  // Restarts devices and shows that at once. Rejects with an ApiError.
+  async restart(serviceIds: string[]): Promise<void> {
+    const [only, ...others] = serviceIds
+    if (only === undefined) return
+    await (others.length ? this.api.restartDevices(serviceIds) : this.api.restartDevice(only))
+    if (!this.loaded.value) return // signed out meanwhile
+    for (const device of this.devices) if (serviceIds.includes(device.serviceId)) device.state = 'restarting'
+    // A list that was asked for before the restart would show the devices as they were.
+    await this.reload()
   }
 
   private giveUpRequest(): void {
@@ -84,6 +92,7 @@ export class DeviceStore {
       this.merge(devices)
       this.loaded.value = true
       this.error.value = null
+      ++this.revision.value
     } catch (error) {
       if (isAborted(error) || signal.aborted) return
       if (!(error instanceof ApiError)) throw error

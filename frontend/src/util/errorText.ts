@@ -6,8 +6,13 @@ export interface ErrorText {
   text?: string
 }
 
+// The words for it, in the language of `translate`.
+export function wordsOf({ key, text }: ErrorText, translate: (key: string) => string): string {
+  return key ? translate(key) : (text ?? '')
+}
+
 // What to tell the user about a failed request.
-export function errorText(error: ApiError): ErrorText {
+export function apiErrorText(error: ApiError): ErrorText {
   if (error.kind !== 'refused') return { key: `errors.${error.kind}` }
   if (error.code === API_CODE.notSignedIn) return { key: 'errors.sessionEnded' }
   return error.message ? { text: error.message } : { key: 'errors.malformed' }
@@ -19,5 +24,5 @@ export function signInErrorText(error: ApiError): ErrorText {
     return { key: 'errors.wrongPassword' }
   if (error.kind === 'refused' && error.code === API_CODE.tooManyFailures)
     return { key: 'errors.tooManyFailures' }
-  return errorText(error)
+  return apiErrorText(error)
 }

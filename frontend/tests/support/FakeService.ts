@@ -20,7 +20,13 @@ export class FakeService {
       data: { access_token: 'token-1', login_id: 'login-1', user_name: 'Demo', expires_in: 60 },
     },
     '/apiv1/user/logout': { code: 200, data: {} },
+    '/apiv1/user/session': { code: 200, data: { user_name: 'Demo', login_id: 'login-1', expires_in: 60 } },
+    '/apiv1/client/config': { code: 200, data: { expire_notice_minutes: [30, 10, 5] } },
+    '/apiv1/client/update': { code: 200, data: { has_update: false } },
     '/apiv1/device/actionDevice': { code: 200, data: {} },
+    '/apiv1/device/batchActionDevice': { code: 200, data: {} },
+    '/apiv1/device/ccGroupList': { code: 200, data: { groups: [] } },
+    '/apiv1/device/actionCcGroup': { code: 200, data: {} },
     '/apiv1/device/list': { code: 200, data: { devices: [] } },
   }
 
@@ -75,6 +81,8 @@ export function listedDevice(serviceId: string, aliasName: string, more: object 
     expire_time: '2027-01-31 12:00:00',
     network_time: '2026-11-21 09:30:00',
     remaining_seconds: 6_143_400,
+    node_type: 'vm',
+    uuid: `uuid-${serviceId}`,
     picture: '',
     ...more,
   }

@@ -2,7 +2,10 @@ import { DOMWrapper, flushPromises } from '@vue/test-utils'
 import { onTestFinished } from 'vitest'
 import { createOrvaneApp } from '@/app/createOrvaneApp'
 import { createServices } from '@/app/createServices'
+import { installPageFunctions } from '@/app/pageFunctions'
 import { BrowserClientBridge, type BridgeCall } from '@/bridge/BrowserClientBridge'
+import type { Messages } from '@/i18n/en'
+import type { StreamEnvironment } from '@/stream/StreamClient'
 import { FakeService } from './FakeService'
 
 export const SESSION = { accessToken: 'token-1', loginId: 'login-1', userName: 'Demo' }
@@ -21,6 +24,19 @@ export interface AppUnderTest {
 export interface MountOptions {
   service?: FakeService
   remembered?: typeof SESSION
+  // Further things in the local storage.
+  stored?: Record<string, string>
+  // The part of the address behind "#".
+  hash?: string
+  // For a device window: whose session it borrows.
+  borrowed?: typeof SESSION
+  streaming?: StreamEnvironment
+}
+
+// Texts as the build makes them, without the scripts around them.
+export async function loadTestTexts(code: string): Promise<Messages> {
+  const module = (await import(`../../src/i18n/locales/${code}.json`)) as { default: Messages }
+  return module.default
 }
 
 // Mounts the whole application over a service that is not there and the browser's bridge.
@@ -28,15 +44,22 @@ export async function mountApp(options: MountOptions = {}): Promise<AppUnderTest
   const service = options.service ?? new FakeService()
   const bridge = new BrowserClientBridge()
   localStorage.clear()
-  window.location.hash = ''
-  for (const [key, value] of Object.entries(options.remembered ?? {})) localStorage.setItem(key, value)
+  sessionStorage.clear()
+  window.location.hash = options.hash ?? ''
+  for (const [key, value] of Object.entries({ ...options.remembered, ...options.stored }))
+    localStorage.setItem(key, value)
   const services = createServices({
     apiBaseUrl: 'http://service',
     bridge,
     storage: localStorage,
-    language: () => 'en',
+    tabStorage: sessionStorage,
     fetch: service.fetch,
+    loadTexts: loadTestTexts,
+    streaming: options.streaming,
   })
+  if (options.borrowed) services.session.borrow(options.borrowed)
+  installPageFunctions(services)
+  await services.settings.restore()
   const { app, router } = createOrvaneApp(services)
   const root = document.createElement('div')
   document.body.append(root)
@@ -44,6 +67,7 @@ export async function mountApp(options: MountOptions = {}): Promise<AppUnderTest
   onTestFinished(() => {
     app.unmount()
     services.devices.clear()
+    services.expiry.stop()
   })
   await router.isReady()
   await flushPromises()
