@@ -6,11 +6,12 @@
 #include "web/WebSingleControllerJsApi.h"
 #include "web/WindowPlacement.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QJsonObject>
+#include <QResource>
 #include <QWebEngineDownloadItem>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
@@ -19,6 +20,19 @@ namespace {
 
 constexpr QSize FirstSize(340, 640); // pixels, of the empty window
 constexpr QSize LoadedSize(390, 640); // until the page wants another
+
+// Makes the front end available as qrc:/html/orvane/, once for the process.
+void registerFrontEnd()
+{
+    static const bool registered = [] {
+        const QString file = QCoreApplication::applicationDirPath() + QStringLiteral("/res/html/orvane.rcc");
+        const bool found = QResource::registerResource(file);
+        if (!found)
+            qWarning().noquote() << "the device page cannot be loaded, there is no" << file;
+        return found;
+    }();
+    Q_UNUSED(registered)
+}
 
 } // namespace
 
@@ -35,6 +49,7 @@ WebSingleController::WebSingleController()
 
 void WebSingleController::load(const QUrl &url)
 {
+    registerFrontEnd();
     setFixedSize(LoadedSize);
     m_webContainer = new OvWebContainer(this);
     m_webContainer->setAttribute(Qt::WA_TranslucentBackground);
@@ -46,10 +61,9 @@ void WebSingleController::load(const QUrl &url)
     view->setJsApi(m_jsApi);
     connectJsApi();
     // The device page has another origin than the main window's page and does not see its local storage.
-    m_webContainer->addPageSettings({{QStringLiteral("session"),
-        QJsonObject{{QStringLiteral("accessToken"), HttpHelper::accessToken()},
-            {QStringLiteral("loginId"), HttpHelper::loginId()},
-            {QStringLiteral("lang"), HttpHelper::language()}}}});
+    m_webContainer->addPageSettings({{QStringLiteral("accessToken"), HttpHelper::accessToken()},
+        {QStringLiteral("loginId"), HttpHelper::loginId()},
+        {QStringLiteral("language"), HttpHelper::language()}});
     m_layout->addWidget(m_webContainer);
     m_webContainer->load(url.toString(QUrl::FullyEncoded));
 }
