@@ -127,8 +127,10 @@ void TestClient::openFirstDevice()
 {
     Desktop::activate(mainWindow);
     Desktop::type(firstDevice("alias_name"));
-    Desktop::key(QStringLiteral("Tab"));
-    Desktop::key(QStringLiteral("Tab"));
+    // From the search field over its clear button and the card's box.
+    settledPicture(QStringLiteral("the search has ended"), Desktop::window(mainWindow));
+    for (int i = 0; i < 3; ++i)
+        Desktop::key(QStringLiteral("Tab"));
     Desktop::key(QStringLiteral("Return"));
     waitUntil(QStringLiteral("the device window"),
         [this] { return !Desktop::window(firstDevice("alias_name")).isEmpty(); });

@@ -25,6 +25,11 @@ constexpr QSize deviceScreen(720, 1280);
 constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
 constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
+constexpr int TabsToOpen = 3; // from the search field over its clear button and the card's box
+// In the main window.
+constexpr QPoint devicesItem(75, 81);
+constexpr QPoint groupsItem(75, 125);
+constexpr QPoint settingsItem(75, 168);
 
 QString program(const char *name)
 {
@@ -54,6 +59,9 @@ bool DemoRun::run()
         writeNotes();
         scrollList();
         closeDevice();
+        showGroups();
+        changeLanguage();
+        openWebDevice();
         say(QStringLiteral("done: %1 pictures in %2").arg(m_step).arg(QDir(m_outputDir).absolutePath()));
         return true;
     } catch (const StepFailed &failure) {
@@ -99,11 +107,11 @@ void DemoRun::openDevice()
     m_deviceName = device.value(QLatin1String("alias_name")).toString();
     m_pad = device.value(QLatin1String("pad_code")).toString();
 
-    // From the search field, which has the focus, to the first card.
+    // From the search field, which has the focus, to the "Open" of the one card that is left.
     Desktop::type(m_deviceName);
-    Desktop::key(QStringLiteral("Tab"));
-    QTest::qWait(300);
-    Desktop::key(QStringLiteral("Tab"));
+    settledPicture(QStringLiteral("the search has ended"), Desktop::window(mainWindowTitle));
+    for (int i = 0; i < TabsToOpen; ++i)
+        Desktop::key(QStringLiteral("Tab"));
     Desktop::key(QStringLiteral("Return"));
     waitUntil(QStringLiteral("the window of device '%1' is open").arg(m_deviceName),
         [this] { return !Desktop::window(m_deviceName).isEmpty(); });
@@ -212,6 +220,34 @@ void DemoRun::closeDevice()
             .isEmpty();
     });
     say(QStringLiteral("closed the device window; the service has its session back"));
+}
+
+void DemoRun::showView(const QPoint &item)
+{
+    Desktop::activate(mainWindowTitle);
+    Desktop::click(Desktop::window(mainWindowTitle).topLeft() + item);
+}
+
+void DemoRun::showGroups()
+{
+    showView(groupsItem);
+    save(QStringLiteral("groups"),
+        settledPicture(QStringLiteral("the saved groups are shown"), Desktop::window(mainWindowTitle)));
+}
+
+void DemoRun::changeLanguage()
+{
+    showView(settingsItem);
+    save(QStringLiteral("settings"),
+        settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle)));
+}
+
+void DemoRun::openWebDevice()
+{
+    showView(devicesItem);
+    Desktop::key(QStringLiteral("Tab"));
+    save(QStringLiteral("web"),
+        settledPicture(QStringLiteral("the list is shown"), Desktop::window(mainWindowTitle)));
 }
 
 QRect DemoRun::videoArea() const

@@ -24,7 +24,12 @@ private:
     void writeNotes();
     void scrollList();
     void closeDevice();
+    void showGroups();
+    void changeLanguage();
+    void openWebDevice();
 
+    // Clicks an item of the main window's side bar.
+    static void showView(const QPoint &item);
     // Taps an app's icon on the launcher and waits until the app is in front.
     void launch(const QString &app);
     // Screen position of a point of the device's screen, given in its 720 x 1280 pixels.
