@@ -142,12 +142,18 @@ describe('the device window', () => {
     expect(document.title).toBe('Au rora')
   })
 
-  it('asks for the fitting window, again when the device is turned', async () => {
+  it('asks for the fitting window, again when the device is turned, but not when it reconnects', async () => {
+    vi.useFakeTimers()
     vi.spyOn(window.screen, 'availWidth', 'get').mockReturnValue(5000)
-    const { calls } = await mountLive()
+    const { calls } = await mountWindow()
+    FakeSocket.latest.signIn()
     FakeSocket.latest.receive({ $case: 'screenRotation', value: { rotation: 1 } })
     FakeSocket.latest.receive({ $case: 'screenRotation', value: { rotation: 2 } })
+    FakeSocket.latest.lose()
+    await vi.advanceTimersByTimeAsync(300)
+    FakeSocket.latest.signIn()
     expect(calls('setWindowSize').map(({ params }) => params)).toEqual([
+      { width: 390, height: 655 },
       { width: 844, height: 490 },
       { width: 390, height: 655 },
     ])
