@@ -72,7 +72,10 @@ export default defineConfig({
     modulePreload: false,
     // The CMake target builds into the client's folder, outside this one.
     emptyOutDir: true,
-    rollupOptions: { output: { format: 'iife', inlineDynamicImports: true } },
+    rollupOptions: {
+      // Names without hashes: the client embeds the files too, and must know them.
+      output: { format: 'iife', inlineDynamicImports: true, entryFileNames: 'assets/index.js' },
+    },
   },
   test: {
     environment: 'jsdom',

@@ -30,7 +30,11 @@ class FakeTransport implements WebChannelTransport {
   // The channel comes up: answers the request for the published objects.
   open(): void {
     const request = this.messages.find((message) => message.type === INIT)!
-    const object = { signals: [], methods: [['callJsApi', 4]], properties: [], enums: {} }
+    const methods = [
+      ['callJsApi', 4],
+      ['onOpenWebSingleController', 5],
+    ]
+    const object = { signals: [], methods, properties: [], enums: {} }
     this.onmessage!({
       data: JSON.stringify({ type: 10, id: request.id, data: { [this.objectName]: object } }),
     })
@@ -88,6 +92,34 @@ describe('QtClientBridge', () => {
     bridge.call(name, params)
     await flushPromises()
     expect(transport.callTexts()).toEqual([text])
+  })
+
+  it('hands a device for a web window to a slot of its own', async () => {
+    const { transport, bridge } = openBridge()
+    const device = {
+      deviceId: 'VM1',
+      serviceId: '1',
+      nodeType: 'vm',
+      payMode: 'month',
+      uuid: 'u',
+      apiHost: 'http://api',
+      aliasName: 'Aurora',
+      ttl: '60',
+    }
+    bridge.openWebDevice(device)
+    await flushPromises()
+    const message = transport.messages.find(({ type }) => type === INVOKE)!
+    expect([message.object, message.args]).toEqual(['clientApi', [device]])
+    expect([5, 'onOpenWebSingleController']).toContain(message.method)
+  })
+
+  it('waits for the user without end', async () => {
+    vi.useFakeTimers()
+    const { transport, bridge } = openBridge()
+    const answer = bridge.ask('getSavePath', {})
+    await vi.advanceTimersByTimeAsync(10 * ANSWER_TIMEOUT_MS)
+    globals[callbackOf(transport.callTexts()[0])]!({ savePath: '' })
+    await expect(answer).resolves.toEqual({ savePath: '' })
   })
 
   it('keeps calls, in their order, until the channel is up', async () => {
@@ -165,6 +197,26 @@ describe('BrowserClientBridge', () => {
     bridge.call('moveWindow', { x: 1, y: 2 })
     expect(bridge.calls).toEqual([{ name: 'moveWindow', params: { x: 1, y: 2 } }])
     await expect(bridge.ask('getAppInfo', {})).resolves.toEqual({ appVersion: 'dev' })
+  })
+
+  it('opens a web device window as a window of the browser', () => {
+    const open = vi.fn()
+    vi.stubGlobal('open', open)
+    const device = {
+      deviceId: '',
+      serviceId: '1',
+      nodeType: '',
+      payMode: '',
+      uuid: '',
+      apiHost: 'http://a',
+      aliasName: 'Ä b',
+      ttl: '',
+    }
+    new BrowserClientBridge().openWebDevice(device)
+    const [url, name] = open.mock.calls[0] as [string, string]
+    expect(url).toContain('#/deviceWin/?deviceId=&serviceId=1')
+    expect(url).toContain('apiHost=http%3A%2F%2Fa&aliasName=%C3%84+b')
+    expect(name).toBe('1')
   })
 
   it('does not remember without end', () => {

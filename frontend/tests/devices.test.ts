@@ -4,6 +4,8 @@ import { nextTick } from 'vue'
 import { TOAST_MS } from '@/app/ToastStore'
 import { SIGN_OUT_PATIENCE_MS } from '@/composables/useSignOut'
 import { REFRESH_INTERVAL_MS } from '@/devices/DeviceStore'
+import { SessionStore } from '@/session/SessionStore'
+import { SafeStorage } from '@/util/SafeStorage'
 import { FakeService, listedDevice } from './support/FakeService'
 import { mountApp, SESSION, type AppUnderTest } from './support/mountApp'
 
@@ -452,6 +454,16 @@ describe('the end of a session', () => {
     expect(page.find('form').exists()).toBe(true)
     expect(part('message').text()).toBe('Your session has ended. Please sign in again.')
     expect(localStorage).toHaveLength(0)
+  })
+
+  it('is still explained after the client has loaded the page anew', async () => {
+    const { service, calls } = await mountDevices(listedDevice('1', 'Aurora'))
+    service.answers[LIST] = { code: 401, msg: 'no' }
+    await refreshNow()
+    expect(calls('logout')).toHaveLength(1)
+    const tab = new SafeStorage(sessionStorage)
+    expect(new SessionStore(new SafeStorage(localStorage), tab).endedByService.value).toBe(true)
+    expect(new SessionStore(new SafeStorage(localStorage), tab).endedByService.value).toBe(false)
   })
 
   it("shows nothing of the last user's devices to the next", async () => {

@@ -6,7 +6,9 @@ import { findLanguage, LANGUAGES, pluralForm } from '@/i18n/languages'
 import { loadTexts } from '@/i18n/loadTexts'
 import { loadTestTexts } from './support/mountApp'
 
-type Tree = { [key: string]: string | Tree }
+interface Tree {
+  [key: string]: string | Tree
+}
 
 function flat(tree: Tree, path = ''): Map<string, string> {
   const texts = new Map<string, string>()

@@ -1,6 +1,8 @@
 import { messageBytes, readMessage, type Body } from '@/stream/messages'
 import type { StreamEnvironment } from '@/stream/StreamClient'
 
+type ValueOf<Kind extends Body['$case']> = Extract<Body, { $case: Kind }>['value']
+
 // A WebSocket whose other end is the test.
 export class FakeSocket {
   static readonly all: FakeSocket[] = []
@@ -59,10 +61,9 @@ export class FakeSocket {
   }
 
   // What was sent of one kind.
-  of<Kind extends Body['$case']>(kind: Kind): Extract<Body, { $case: Kind }>['value'][] {
-    return this.bodies()
-      .filter((body) => body.$case === kind)
-      .map((body) => body.value as Extract<Body, { $case: Kind }>['value'])
+  of<Kind extends Body['$case']>(kind: Kind): ValueOf<Kind>[] {
+    const bodies: { $case: string; value: unknown }[] = this.bodies()
+    return bodies.filter((body) => body.$case === kind).map((body) => body.value as ValueOf<Kind>)
   }
 
   signIn(more: object = {}): void {

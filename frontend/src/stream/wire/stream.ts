@@ -83,6 +83,7 @@ export const LoginResult_Code = {
   UNSUPPORTED_VERSION: 3,
   /** BUSY - the device is not ready: try again later */
   BUSY: 4,
+  UNRECOGNIZED: -1,
 } as const;
 
 export type LoginResult_Code = typeof LoginResult_Code[keyof typeof LoginResult_Code];
@@ -93,6 +94,7 @@ export namespace LoginResult_Code {
   export type EXPIRED = typeof LoginResult_Code.EXPIRED;
   export type UNSUPPORTED_VERSION = typeof LoginResult_Code.UNSUPPORTED_VERSION;
   export type BUSY = typeof LoginResult_Code.BUSY;
+  export type UNRECOGNIZED = typeof LoginResult_Code.UNRECOGNIZED;
 }
 
 /** A row of the client's level table; the fields of VideoLevel in their order. */
@@ -141,6 +143,7 @@ export const ScreenCast_Mode = {
   UNUSED: 2,
   /** FULL - the chosen level */
   FULL: 3,
+  UNRECOGNIZED: -1,
 } as const;
 
 export type ScreenCast_Mode = typeof ScreenCast_Mode[keyof typeof ScreenCast_Mode];
@@ -150,6 +153,7 @@ export namespace ScreenCast_Mode {
   export type THUMBNAIL = typeof ScreenCast_Mode.THUMBNAIL;
   export type UNUSED = typeof ScreenCast_Mode.UNUSED;
   export type FULL = typeof ScreenCast_Mode.FULL;
+  export type UNRECOGNIZED = typeof ScreenCast_Mode.UNRECOGNIZED;
 }
 
 export interface KeyframeRequest {
@@ -257,6 +261,7 @@ export const SessionEnd_Code = {
   PROTOCOL_ERROR: 2,
   /** SHUTDOWN - the gateway is going down: try again */
   SHUTDOWN: 3,
+  UNRECOGNIZED: -1,
 } as const;
 
 export type SessionEnd_Code = typeof SessionEnd_Code[keyof typeof SessionEnd_Code];
@@ -266,6 +271,7 @@ export namespace SessionEnd_Code {
   export type EXPIRED = typeof SessionEnd_Code.EXPIRED;
   export type PROTOCOL_ERROR = typeof SessionEnd_Code.PROTOCOL_ERROR;
   export type SHUTDOWN = typeof SessionEnd_Code.SHUTDOWN;
+  export type UNRECOGNIZED = typeof SessionEnd_Code.UNRECOGNIZED;
 }
 
 export interface Ping {
