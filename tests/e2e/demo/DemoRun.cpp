@@ -26,10 +26,17 @@ constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
 constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
 constexpr int TabsToOpen = 3; // from the search field over its clear button and the card's box
-// In the main window.
-constexpr QPoint devicesItem(75, 81);
-constexpr QPoint groupsItem(75, 125);
-constexpr QPoint settingsItem(75, 168);
+constexpr int TabsToOpenInPage = TabsToOpen + 1; // the button beside "Open"
+// In the main window at its working size.
+constexpr QPoint devicesItem(75, 90);
+constexpr QPoint groupsItem(75, 134);
+constexpr QPoint settingsItem(75, 178);
+constexpr QPoint german(379, 291);
+constexpr QPoint arabic(379, 379);
+constexpr QPoint englishOfArabic(761, 203); // the Arabic page is mirrored
+// In the web device window.
+constexpr QPoint captureButton(368, 310);
+constexpr QPoint webCloseButton(366, 20);
 
 QString program(const char *name)
 {
@@ -62,6 +69,8 @@ bool DemoRun::run()
         showGroups();
         changeLanguage();
         openWebDevice();
+        saveScreenshot();
+        closeWebDevice();
         say(QStringLiteral("done: %1 pictures in %2").arg(m_step).arg(QDir(m_outputDir).absolutePath()));
         return true;
     } catch (const StepFailed &failure) {
@@ -213,41 +222,93 @@ void DemoRun::closeDevice()
     Desktop::click({window.right() - shadowMargin - 20, window.top() + shadowMargin + titleBarHeight / 2});
     waitUntil(QStringLiteral("the device window is closed"),
         [this] { return Desktop::window(m_deviceName).isEmpty(); });
+    waitForNoSession();
+    say(QStringLiteral("closed the device window; the service has its session back"));
+}
+
+void DemoRun::waitForNoSession()
+{
     waitUntil(QStringLiteral("the service has the session back"), [this] {
         return m_service.admin(QStringLiteral("GET"), QStringLiteral("/admin/stats"))
             .value(QLatin1String("sessions"))
             .toArray()
             .isEmpty();
     });
-    say(QStringLiteral("closed the device window; the service has its session back"));
 }
 
-void DemoRun::showView(const QPoint &item)
+void DemoRun::clickInMainWindow(const QPoint &position)
 {
     Desktop::activate(mainWindowTitle);
-    Desktop::click(Desktop::window(mainWindowTitle).topLeft() + item);
+    Desktop::click(Desktop::window(mainWindowTitle).topLeft() + position);
 }
 
 void DemoRun::showGroups()
 {
-    showView(groupsItem);
+    clickInMainWindow(groupsItem);
     save(QStringLiteral("groups"),
         settledPicture(QStringLiteral("the saved groups are shown"), Desktop::window(mainWindowTitle)));
 }
 
 void DemoRun::changeLanguage()
 {
-    showView(settingsItem);
+    clickInMainWindow(settingsItem);
     save(QStringLiteral("settings"),
         settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle)));
+    const auto choose = [this](const QPoint &position, const QString &code) {
+        clickInMainWindow(position);
+        waitUntil(QStringLiteral("the client is told the language"),
+            [&] { return m_client.log().contains(QStringLiteral("\"lang\":\"%1\"").arg(code)); });
+        return settledPicture(QStringLiteral("the page has turned"), Desktop::window(mainWindowTitle));
+    };
+    save(QStringLiteral("german"), choose(german, QStringLiteral("de")));
+    save(QStringLiteral("arabic"), choose(arabic, QStringLiteral("ar")));
+    choose(englishOfArabic, QStringLiteral("en"));
+    say(QStringLiteral("changed the language to German, Arabic and back"));
 }
 
 void DemoRun::openWebDevice()
 {
-    showView(devicesItem);
-    Desktop::key(QStringLiteral("Tab"));
-    save(QStringLiteral("web"),
-        settledPicture(QStringLiteral("the list is shown"), Desktop::window(mainWindowTitle)));
+    clickInMainWindow(devicesItem);
+    settledPicture(QStringLiteral("the device list is shown"), Desktop::window(mainWindowTitle));
+    Desktop::type(m_deviceName);
+    settledPicture(QStringLiteral("the search has ended"), Desktop::window(mainWindowTitle));
+    for (int i = 0; i < TabsToOpenInPage; ++i)
+        Desktop::key(QStringLiteral("Tab"));
+    Desktop::key(QStringLiteral("Return"));
+    waitUntil(QStringLiteral("the web window of device '%1' is open").arg(m_deviceName),
+        [this] { return !Desktop::window(m_deviceName).isEmpty(); });
+    waitUntil(
+        QStringLiteral("the device's screen is shown in the page"),
+        [this] { return e2e::colourCount(Desktop::screenshot(Desktop::window(m_deviceName)), 200) >= 200; },
+        30000);
+    save(QStringLiteral("web-device"),
+        settledPicture(QStringLiteral("the page's picture is sharp"), Desktop::window(m_deviceName), 30000));
+    say(QStringLiteral("'%1' is live in a web device window").arg(m_deviceName));
+}
+
+void DemoRun::saveScreenshot()
+{
+    const QString dialog = QStringLiteral("Save File");
+    Desktop::click(Desktop::window(m_deviceName).topLeft() + captureButton);
+    waitUntil(QStringLiteral("the save dialog is open"), [&] { return !Desktop::window(dialog).isEmpty(); });
+    settledPicture(QStringLiteral("the save dialog is painted"), Desktop::window(dialog));
+    const QString file = QDir(m_outputDir).absoluteFilePath(pictureName(QStringLiteral("saved-screenshot")));
+    Desktop::activate(dialog);
+    Desktop::key(QStringLiteral("ctrl+a"));
+    Desktop::type(file);
+    Desktop::key(QStringLiteral("Return"));
+    waitUntil(
+        QStringLiteral("the screenshot is on the disk"), [&] { return QImage(file).size() == deviceScreen; });
+    say(QStringLiteral("saved a screenshot of 720 x 1280 from the page"));
+}
+
+void DemoRun::closeWebDevice()
+{
+    Desktop::click(Desktop::window(m_deviceName).topLeft() + webCloseButton);
+    waitUntil(QStringLiteral("the web device window is closed"),
+        [this] { return Desktop::window(m_deviceName).isEmpty(); });
+    waitForNoSession();
+    say(QStringLiteral("closed the web device window; the service has its session back"));
 }
 
 QRect DemoRun::videoArea() const
@@ -264,11 +325,15 @@ QPoint DemoRun::onScreen(const QPoint &devicePoint) const
             devicePoint.y() * video.height() / deviceScreen.height());
 }
 
-void DemoRun::save(const QString &name, const QImage &picture)
+QString DemoRun::pictureName(const QString &name)
 {
     ++m_step;
-    const QString file
-        = QStringLiteral("%1/%2-%3.png").arg(m_outputDir).arg(m_step, 2, 10, QLatin1Char('0')).arg(name);
+    return QStringLiteral("%1-%2.png").arg(m_step, 2, 10, QLatin1Char('0')).arg(name);
+}
+
+void DemoRun::save(const QString &name, const QImage &picture)
+{
+    const QString file = m_outputDir + QLatin1Char('/') + pictureName(name);
     if (!picture.save(file))
         throw StepFailed(QStringLiteral("%1 could not be written").arg(file));
 }

@@ -27,14 +27,18 @@ private:
     void showGroups();
     void changeLanguage();
     void openWebDevice();
+    void saveScreenshot();
+    void closeWebDevice();
+    void waitForNoSession();
 
-    // Clicks an item of the main window's side bar.
-    static void showView(const QPoint &item);
+    static void clickInMainWindow(const QPoint &position);
     // Taps an app's icon on the launcher and waits until the app is in front.
     void launch(const QString &app);
     // Screen position of a point of the device's screen, given in its 720 x 1280 pixels.
     QPoint onScreen(const QPoint &devicePoint) const;
     QRect videoArea() const;
+    // The file name of the next step's picture.
+    QString pictureName(const QString &name);
     void save(const QString &name, const QImage &picture);
     static void say(const QString &text);
 
