@@ -71,6 +71,7 @@ bool DemoRun::run()
         openWebDevice();
         saveScreenshot();
         closeWebDevice();
+        checkLog();
         say(QStringLiteral("done: %1 pictures in %2").arg(m_step).arg(QDir(m_outputDir).absolutePath()));
         return true;
     } catch (const StepFailed &failure) {
@@ -224,6 +225,17 @@ void DemoRun::closeDevice()
         [this] { return Desktop::window(m_deviceName).isEmpty(); });
     waitForNoSession();
     say(QStringLiteral("closed the device window; the service has its session back"));
+}
+
+// The page's console ends in the log too.
+void DemoRun::checkLog()
+{
+    const QStringList lines = m_client.log().split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (line.contains(QLatin1String(" [WARNING]: ")) || line.contains(QLatin1String(" [CRITICAL]: ")))
+            throw StepFailed(QStringLiteral("the client's log has: %1").arg(line));
+    }
+    say(QStringLiteral("the client's log has %1 lines and no warning").arg(lines.size()));
 }
 
 void DemoRun::waitForNoSession()

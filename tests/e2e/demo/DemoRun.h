@@ -29,6 +29,7 @@ private:
     void openWebDevice();
     void saveScreenshot();
     void closeWebDevice();
+    void checkLog();
     void waitForNoSession();
 
     static void clickInMainWindow(const QPoint &position);
