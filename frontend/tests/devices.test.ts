@@ -267,6 +267,13 @@ describe('the keyboard in the cards', () => {
     expect(tabStops(page)).toEqual(['1'])
     expect(card(page, '1').findAll('button[tabindex="0"]')).toHaveLength(3)
     expect(page.findAll('li button[tabindex="0"]')).toHaveLength(3)
+    const controls = card(page, '1').findAll('button, input')
+    expect(controls.map((control) => control.attributes('data-test') ?? control.attributes('name'))).toEqual([
+      'open',
+      'open-web',
+      'restart',
+      'selected',
+    ])
   })
 
   it('moves with the arrows, Home and End', async () => {
