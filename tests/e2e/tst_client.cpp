@@ -127,9 +127,9 @@ void TestClient::openFirstDevice()
 {
     Desktop::activate(mainWindow);
     Desktop::type(firstDevice("alias_name"));
-    // From the search field over its clear button and the card's box.
+    // From the search field over its clear button.
     settledPicture(QStringLiteral("the search has ended"), Desktop::window(mainWindow));
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 2; ++i)
         Desktop::key(QStringLiteral("Tab"));
     Desktop::key(QStringLiteral("Return"));
     waitUntil(QStringLiteral("the device window"),

@@ -25,7 +25,7 @@ constexpr QSize deviceScreen(720, 1280);
 constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
 constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
-constexpr int TabsToOpen = 3; // from the search field over its clear button and the card's box
+constexpr int TabsToOpen = 2; // from the search field over its clear button
 constexpr int TabsToOpenInPage = TabsToOpen + 1; // the button beside "Open"
 // In the main window at its working size.
 constexpr QPoint devicesItem(75, 90);
