@@ -55,9 +55,15 @@ QString OvMainWindow::frontEndUrl()
         + QStringLiteral("/res/html/orvane/index.html");
 }
 
+// Without a compositor, as Windows 7 may be, the border would show.
+int OvMainWindow::normalShadowMargin(bool isWindows7)
+{
+    return isWindows7 ? 0 : defaultShadowMargin;
+}
+
 OvMainWindow::OvMainWindow(QWidget *parent)
     : OvWindowBase(parent)
-    , m_normalShadowMargin(isWindows7() ? 0 : defaultShadowMargin)
+    , m_normalShadowMargin(normalShadowMargin(isWindows7()))
 {
     setShadowMargin(m_normalShadowMargin);
     setWindowTitle(QStringLiteral("Orvane"));

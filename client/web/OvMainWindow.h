@@ -31,6 +31,9 @@ public:
     // Where the front end is loaded from: "file:///" and a path beside the program.
     static QString frontEndUrl();
 
+    // Width of the transparent border while not maximised, in pixels.
+    static int normalShadowMargin(bool isWindows7);
+
 public slots:
     // The page's working size in pixels, after sign-in.
     void onSetWindowSize(int width, int height);

@@ -1,5 +1,6 @@
 #include "Client.h"
 #include "Desktop.h"
+#include "PlainApiProxy.h"
 #include "Screens.h"
 #include "Service.h"
 #include "Waiting.h"
@@ -15,6 +16,7 @@
 
 using e2e::Client;
 using e2e::Desktop;
+using e2e::PlainApiProxy;
 using e2e::Service;
 using e2e::settledPicture;
 using e2e::waitUntil;
@@ -34,6 +36,8 @@ private slots:
     void cleanup();
 
     void signInWindowAndFiles();
+    void fractionalScaleIsNotRounded();
+    void signsInAtAServiceOfAnotherOrigin();
     void wrongPasswordStaysOnThePage();
     void rememberedSessionOutlivesARestart();
     void deviceWindowOpensOnceAndIsGivenBack();
@@ -41,6 +45,8 @@ private slots:
     void everyLogLineHasItsForm();
 
 private:
+    // A client with a new home directory; the one before is killed.
+    void newClient();
     void signIn(const QString &password = QStringLiteral("orvane-demo"));
     void waitForSignInPage();
     void waitForDeviceList();
@@ -60,10 +66,18 @@ void TestClient::init()
         const QString programs = QCoreApplication::applicationDirPath();
         m_service = std::make_unique<Service>(programs + QStringLiteral("/orvane-cloud"), 3);
         m_service->start();
-        m_client = std::make_unique<Client>(programs + QStringLiteral("/orvane"));
-        m_client->setApiBaseUrl(m_service->apiBaseUrl());
+        newClient();
         m_client->start();
     });
+}
+
+void TestClient::newClient()
+{
+    if (m_client)
+        m_client->kill();
+    waitUntil(QStringLiteral("no window is left"), [] { return Desktop::window(mainWindow).isEmpty(); });
+    m_client = std::make_unique<Client>(QCoreApplication::applicationDirPath() + QStringLiteral("/orvane"));
+    m_client->setApiBaseUrl(m_service->apiBaseUrl());
 }
 
 void TestClient::cleanup()
@@ -162,6 +176,33 @@ void TestClient::signInWindowAndFiles()
             QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd")) + QStringLiteral(".log")));
         QVERIFY(logs.entryList({QStringLiteral("*.log")}).size() >= 2);
         closeMainWindow();
+    });
+}
+
+// A display of 120 dots per inch, as at a setting of 125 %.
+void TestClient::fractionalScaleIsNotRounded()
+{
+    e2e::steps([&] {
+        newClient();
+        m_client->setVariable(QStringLiteral("QT_FONT_DPI"), QStringLiteral("120"));
+        m_client->start();
+        waitForSignInPage();
+        QCOMPARE(Desktop::window(mainWindow).size(), QSize(320, 508) * 1.25);
+    });
+}
+
+// The page comes from a file; the service need not say that such a page may talk to it.
+void TestClient::signsInAtAServiceOfAnotherOrigin()
+{
+    e2e::steps([&] {
+        PlainApiProxy proxy(m_service->apiBaseUrl());
+        newClient();
+        m_client->setApiBaseUrl(proxy.apiBaseUrl());
+        m_client->start();
+        signIn();
+        waitForDeviceList();
+        QVERIFY(proxy.requestCount() >= 2); // the sign-in and the devices
+        m_client->kill(); // while the proxy is there
     });
 }
 

@@ -21,6 +21,11 @@ namespace {
 // Names of what the test program does when it is started as a child, since an installed log stays installed.
 const char childMessages[] = "--child-messages";
 const char childFatal[] = "--child-fatal";
+const char childFatalShort[] = "--child-fatal-short";
+const char childFatalLong[] = "--child-fatal-long";
+
+// Longer than what the file collects before it writes.
+constexpr int longTextLength = 20'000;
 
 const QDateTime noon(QDate(2024, 3, 7), QTime(12, 0, 0));
 
@@ -64,6 +69,8 @@ private slots:
     void installed();
     void installedWithoutDirectory();
     void fatalEndsTheProcess();
+    void fatalEndsTheProcessByItself_data();
+    void fatalEndsTheProcessByItself();
 
 private:
     // Runs this program as a child whose data directory is dataDir; gives its standard error.
@@ -298,6 +305,39 @@ void TestLogManager::fatalEndsTheProcess()
     QVERIFY(!content.contains("after the end"));
 }
 
+void TestLogManager::fatalEndsTheProcessByItself_data()
+{
+    QTest::addColumn<QByteArray>("mode");
+    QTest::addColumn<QByteArray>("tail"); // of the file, after the time
+    // What is not yet with the system is lost: nothing is flushed any more.
+    QTest::newRow("short") << QByteArray(childFatalShort) << QByteArray();
+    QTest::newRow("long") << QByteArray(childFatalLong)
+                          << " [FATAL]: " + QByteArray(longTextLength, 'x') + '\n';
+}
+
+// The log itself ends the process, not only the toolkit after it.
+void TestLogManager::fatalEndsTheProcessByItself()
+{
+    QFETCH(QByteArray, mode);
+    QTemporaryDir home;
+    QDir logDir(home.filePath(QStringLiteral("tst_logmanager/log")));
+    QVERIFY(logDir.mkpath(QStringLiteral(".")));
+    QProcess process;
+    runChild(mode.constData(), home.path(), &process);
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    const QStringList files = logDir.entryList(QDir::Files);
+    QCOMPARE(files.size(), 1);
+    QTEST(contentOf(logDir.filePath(files.constFirst())).mid(23), "tail");
+}
+
+static int writeFatally(const QString &text)
+{
+    LogManager *log = LogManager::instance();
+    log->write(QtFatalMsg, text);
+    log->write(QtInfoMsg, QStringLiteral("after the end"));
+    return 0;
+}
+
 static int runAsChild(bool fatally)
 {
     qDebug("before");
@@ -322,6 +362,10 @@ int main(int argc, char **argv)
         return runAsChild(false);
     if (argc == 2 && std::strcmp(argv[1], childFatal) == 0)
         return runAsChild(true);
+    if (argc == 2 && std::strcmp(argv[1], childFatalShort) == 0)
+        return writeFatally(QStringLiteral("x"));
+    if (argc == 2 && std::strcmp(argv[1], childFatalLong) == 0)
+        return writeFatally(QString(longTextLength, QLatin1Char('x')));
     TestLogManager test;
     return QTest::qExec(&test, argc, argv);
 }

@@ -56,6 +56,7 @@ private slots:
     void postSendsUtf8();
     void envelope();
     void statusIsNotLookedAt();
+    void redirectsAreNotFollowed();
     void errorStatus_data();
     void errorStatus();
     void noServer();
@@ -230,6 +231,23 @@ void TestHttpHelper::statusIsNotLookedAt()
     QTRY_COMPARE(outcome.count(), 1);
     QCOMPARE(outcome.successes.size(), 1);
     QCOMPARE(outcome.successes.constFirst().code, 200);
+}
+
+// The answer that names another place is the answer.
+void TestHttpHelper::redirectsAreNotFollowed()
+{
+    TestHttpServer server;
+    server.setAnswer(R"({"code": 200, "msg": "elsewhere"})", 302);
+    server.setAnswerHeaders("Location: " + server.baseUrl().toUtf8() + "/elsewhere\r\n");
+    HttpHelper helper;
+    Outcome outcome;
+    helper.get(server.baseUrl() + "/here", outcome.onSuccess(), outcome.onError());
+    QTRY_COMPARE(outcome.count(), 1);
+    QCOMPARE(outcome.successes.size(), 1);
+    QCOMPARE(outcome.successes.constFirst().code, 200);
+    QCOMPARE(outcome.successes.constFirst().msg, QStringLiteral("elsewhere"));
+    QCOMPARE(server.requests().size(), 1);
+    QCOMPARE(server.requests().constFirst().path, QByteArray("/here"));
 }
 
 void TestHttpHelper::errorStatus_data()

@@ -6,21 +6,36 @@
 #include "stream/VideoView.h"
 
 #include <swplay/SWDataSource.h>
+#include <swplay/SWDataSourceListener.h>
 
 #include <QTest>
 
+#include <thread>
+
 namespace {
 
-// A camera that counts.
+// A camera that counts, and notes what the SDK had been asked for when it was stopped last.
 class CountingForwarder : public MultimediaForwarder
 {
 public:
     void start() override { ++starts; }
-    void stop() override { ++stops; }
+    void stop() override
+    {
+        ++stops;
+        callsAtStop = asStringList(Recorder::instance().calls());
+    }
 
     int starts = 0;
     int stops = 0;
+    QStringList callsAtStop;
 };
+
+// As the device asks, on a thread of the SDK.
+void requestCamera(int inputType, int state)
+{
+    std::thread sdk([=] { Recorder::instance().listener()->onSensorRequest(inputType, state); });
+    sdk.join();
+}
 
 } // namespace
 
@@ -34,6 +49,8 @@ private slots:
     void sensorOfOtherTypes();
     void camera_data();
     void camera();
+    void deviceAsksForTheCamera_data();
+    void deviceAsksForTheCamera();
     void cameraOfAnEndedSession();
     void stopEndsForwarding();
 };
@@ -94,6 +111,34 @@ void tst_StreamCamera::camera()
     QCOMPARE(forwarder.stops, 1);
 }
 
+void tst_StreamCamera::deviceAsksForTheCamera_data()
+{
+    camera_data();
+}
+
+void tst_StreamCamera::deviceAsksForTheCamera()
+{
+    QFETCH(int, type);
+    VideoView view;
+    CountingForwarder forwarder;
+    StreamController controller;
+    controller.setMultimediaForwarder(&forwarder);
+    controller.setVideoView(&view);
+    controller.startStream({}, 1);
+    requestCamera(type, 1);
+    QCOMPARE(forwarder.starts, 0); // not on the SDK's thread
+    QTRY_COMPARE(forwarder.starts, 1);
+    requestCamera(type, 1);
+    QTRY_COMPARE(forwarder.starts, 2);
+    takeCalls();
+    emit forwarder.sigSendPicture("jpeg");
+    QCOMPARE(takeCalls(), QStringList("SWDataSource::sendPicture(\"jpeg\", 4)"));
+    requestCamera(type, 0);
+    QCOMPARE(forwarder.stops, 0);
+    QTRY_COMPARE(forwarder.stops, 1);
+    QCOMPARE(forwarder.starts, 2);
+}
+
 void tst_StreamCamera::cameraOfAnEndedSession()
 {
     CountingForwarder forwarder;
@@ -113,10 +158,15 @@ void tst_StreamCamera::stopEndsForwarding()
         controller.setVideoView(&view);
         controller.startStream({}, 1);
         QCOMPARE(forwarder.stops, 0);
+        takeCalls();
         controller.stopStream();
         QCOMPARE(forwarder.stops, 1);
+        QCOMPARE(forwarder.callsAtStop, QStringList()); // before anything of the session is taken down
+        controller.startStream({}, 1);
+        takeCalls();
     }
     QCOMPARE(forwarder.stops, 2);
+    QCOMPARE(forwarder.callsAtStop, QStringList());
 }
 
 QTEST_MAIN(tst_StreamCamera)

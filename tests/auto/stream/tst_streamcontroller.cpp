@@ -98,6 +98,8 @@ private slots:
     void modeWithoutSessionIsNotStored();
     void inputCalls();
     void inputHoldsTheSessionLock();
+    void startStopAndModesLeaveTheLock_data();
+    void startStopAndModesLeaveTheLock();
     void inputWithoutSession();
     void emptyTouch();
     void nonAsciiText();
@@ -332,6 +334,30 @@ void tst_StreamController::inputHoldsTheSessionLock()
     QCOMPARE(asStringList(Recorder::instance().callsUnderLock()), QStringList());
     const QStringList expected = useEveryInput(controller);
     QCOMPARE(asStringList(Recorder::instance().callsUnderLock()), expected);
+}
+
+void tst_StreamController::startStopAndModesLeaveTheLock_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::newRow("paused") << 1 << 0;
+    QTest::newRow("full") << 0 << 1;
+    QTest::newRow("thumbnail") << 1 << 2;
+}
+
+// Input from another thread does not wait for them.
+void tst_StreamController::startStopAndModesLeaveTheLock()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    StreamController controller;
+    controller.setVideoView(m_view.get());
+    controller.startStream(sampleData(), from);
+    controller.setStreamMode(to);
+    controller.startStream(sampleData(), from); // ends the one before
+    controller.stopStream();
+    QVERIFY(Recorder::instance().calls().size() > 30);
+    QCOMPARE(asStringList(Recorder::instance().callsUnderLock()), QStringList());
 }
 
 void tst_StreamController::inputWithoutSession()

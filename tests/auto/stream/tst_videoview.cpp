@@ -65,6 +65,8 @@ private slots:
     void losingFocusLiftsTheFinger();
     void hidingLiftsTheFinger();
     void wheelDrag();
+    void wheelStepsEvery50Ms();
+    void wheelCentreIsTheGlobalPosition();
     void wheelPinch();
     void wheelInLandscape();
     void wheelWithTouchpad();
@@ -189,9 +191,14 @@ void tst_VideoView::signalAndSlotOrder()
     int index = meta.methodOffset();
     for (const char *signature : signatures)
         QCOMPARE(meta.method(index++).methodSignature(), QByteArray(signature));
-    QVERIFY(meta.indexOfSlot("onScreenCaptureBtnClicked()") >= 0);
-    QVERIFY(meta.indexOfSlot("onAuxiliaryKeyAction(int)") >= 0);
-    QVERIFY(meta.indexOfSlot("onRecordingStatusChanged(bool)") >= 0);
+    QStringList slotSignatures;
+    for (index = meta.methodOffset(); index < meta.methodCount(); ++index) {
+        if (meta.method(index).methodType() == QMetaMethod::Slot)
+            slotSignatures.append(QString::fromLatin1(meta.method(index).methodSignature()));
+    }
+    QCOMPARE(slotSignatures,
+        (QStringList{
+            "onScreenCaptureBtnClicked()", "onAuxiliaryKeyAction(int)", "onRecordingStatusChanged(bool)"}));
 }
 
 void tst_VideoView::initialState()
@@ -408,6 +415,26 @@ void tst_VideoView::wheelDrag()
     QCOMPARE(m_sent,
         (QStringList{"0: 360,512", "2: 360,544", "2: 360,576", "2: 360,608", "2: 360,640", "2: 360,672",
             "2: 360,704", "2: 360,736", "2: 360,768", "1: 360,768"}));
+}
+
+void tst_VideoView::wheelStepsEvery50Ms()
+{
+    QVERIFY(!m_view->findChild<QTimer *>());
+    wheel({180, 320}, {0, 120});
+    const auto *timer = m_view->findChild<QTimer *>();
+    QVERIFY(timer);
+    QVERIFY(timer->isActive());
+    QCOMPARE(timer->interval(), 50);
+    QVERIFY(!timer->isSingleShot());
+}
+
+// Not the position within the view that the event carries as well.
+void tst_VideoView::wheelCentreIsTheGlobalPosition()
+{
+    QWheelEvent event(QPointF(0, 0), m_view->mapToGlobal({180, 320}), QPoint(), QPoint(0, 120), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(m_view, &event);
+    QCOMPARE(m_sent, QStringList("0: 360,512"));
 }
 
 void tst_VideoView::wheelPinch()

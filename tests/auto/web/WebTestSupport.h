@@ -5,10 +5,18 @@
 #include <QMutex>
 #include <QStringList>
 #include <QTest>
+#include <QVector>
 #include <QWebEnginePage>
 
 // Helpers of the web shell's tests.
 namespace webtest {
+
+// One message of the log.
+struct LogMessage
+{
+    QtMsgType type;
+    QString text;
+};
 
 // Collects everything that is logged while it lives.
 class LogCapture
@@ -16,27 +24,35 @@ class LogCapture
 public:
     LogCapture()
     {
-        lines().clear();
-        m_previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
-            const QMutexLocker lock(&mutex());
-            lines() << text;
-        });
+        collected().clear();
+        m_previous
+            = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+                  const QMutexLocker lock(&mutex());
+                  collected().append({type, text});
+              });
     }
     ~LogCapture() { qInstallMessageHandler(m_previous); }
     LogCapture(const LogCapture &) = delete;
     LogCapture &operator=(const LogCapture &) = delete;
 
-    static QStringList text()
+    static QVector<LogMessage> messages()
     {
         const QMutexLocker lock(&mutex());
-        return lines();
+        return collected();
+    }
+    static QStringList text()
+    {
+        QStringList lines;
+        for (const LogMessage &message : messages())
+            lines << message.text;
+        return lines;
     }
 
 private:
-    static QStringList &lines()
+    static QVector<LogMessage> &collected()
     {
-        static QStringList collected;
-        return collected;
+        static QVector<LogMessage> messages;
+        return messages;
     }
     static QMutex &mutex()
     {

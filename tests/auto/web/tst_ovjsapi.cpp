@@ -2,16 +2,23 @@
 
 #include "web/OvJsApi.h"
 
+#include <QDesktopServices>
 #include <QFile>
 #include <QJsonArray>
 #include <QMetaMethod>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTextCodec>
 #include <QWebEngineView>
+
+#include <csignal>
 
 using webtest::callText;
 using webtest::evaluate;
 using webtest::LogCapture;
+using webtest::LogMessage;
 
 // The bridge's call protocol, with a real page that receives the results.
 class TestOvJsApi : public QObject
@@ -30,13 +37,21 @@ private slots:
     void badCallsChangeNothing_data();
     void badCallsChangeNothing();
     void callsAreLogged();
+    void everyOtherCallIsLogged_data();
+    void everyOtherCallIsLogged();
+    void callsAreLoggedAfterTheirOperation();
     void writeLogReachesTheLog();
+    void resultTextIsAFunctionCall();
     void noCallbackRunsNoFunction();
     void noWebViewPublishesNothing();
     void execProcessArguments();
     void execProcessExitCode();
     void execProcessMissingProgram();
     void execProcessCrash();
+    void execProcessOutputIsInTheLocalCodePage_data();
+    void execProcessOutputIsInTheLocalCodePage();
+    void finishedProcessIsDeleted();
+    void processThatFailedToStartIsKept();
     void stopExecProcess();
     void resultKeepsPercentSigns();
 
@@ -44,10 +59,14 @@ private:
     QString script(const QString &name, const QByteArray &body);
     QJsonArray results();
     void waitForResults(int count);
+    void exec(const QString &program);
+    // Stands in for the system's browser.
+    Q_INVOKABLE void browse(const QUrl &url) { m_browsed = url; }
 
     QTemporaryDir m_dir;
     QScopedPointer<QWebEngineView> m_view;
     OvJsApi *m_api = nullptr;
+    QUrl m_browsed;
 };
 
 void TestOvJsApi::initTestCase()
@@ -63,6 +82,7 @@ void TestOvJsApi::init()
         QStringLiteral("<script>var results = []; function got(o) { results.push(o); }</script>"));
     QVERIFY(loaded.wait(20000));
     m_api = new OvJsApi(m_view.data());
+    m_browsed.clear();
 }
 
 QString TestOvJsApi::script(const QString &name, const QByteArray &body)
@@ -85,6 +105,12 @@ QJsonArray TestOvJsApi::results()
 void TestOvJsApi::waitForResults(int count)
 {
     QTRY_VERIFY_WITH_TIMEOUT(results().size() >= count, 10000);
+}
+
+void TestOvJsApi::exec(const QString &program)
+{
+    m_api->callJsApi(callText(QStringLiteral("execProcess"),
+        {{QStringLiteral("command"), program}, {QStringLiteral("callback"), QStringLiteral("got")}}));
 }
 
 void TestOvJsApi::interfaceOrder()
@@ -215,12 +241,70 @@ void TestOvJsApi::callsAreLogged()
         QStringList{QStringLiteral("minimizeWindow called, params ---> ") + call});
 }
 
+void TestOvJsApi::everyOtherCallIsLogged_data()
+{
+    QTest::addColumn<QString>("call");
+    const QStringList names{"getAppInfo", "setWindowSize", "closeWindow", "maximizeWindow", "restoreWindow",
+        "minimizeWindow", "setLanguage", "openInnerBrowser", "stopExecProcess", "writeLog", "noSuchOperation",
+        ""};
+    for (const QString &name : names)
+        QTest::newRow(name.isEmpty() ? "no name" : qPrintable(name)) << callText(name);
+    QTest::newRow("openUrl") << callText(
+        QStringLiteral("openUrl"), {{QStringLiteral("url"), QStringLiteral("orvane-test:page")}});
+    QTest::newRow("execProcess") << callText(
+        QStringLiteral("execProcess"), {{QStringLiteral("command"), QStringLiteral("/nowhere/program")}});
+}
+
+void TestOvJsApi::everyOtherCallIsLogged()
+{
+    QFETCH(QString, call);
+    QDesktopServices::setUrlHandler(QStringLiteral("orvane-test"), this, "browse");
+    const auto reset = qScopeGuard([] { QDesktopServices::unsetUrlHandler(QStringLiteral("orvane-test")); });
+    const LogCapture log;
+    m_api->callJsApi(call);
+    const QString name
+        = QJsonDocument::fromJson(call.toUtf8()).object().value(QStringLiteral("jsApiName")).toString();
+    QCOMPARE(LogCapture::text().filter(QStringLiteral("called, params")),
+        QStringList{name + QStringLiteral(" called, params ---> ") + call});
+    QCOMPARE(m_browsed.toString(),
+        name == QLatin1String("openUrl") ? QStringLiteral("orvane-test:page") : QString());
+}
+
+void TestOvJsApi::callsAreLoggedAfterTheirOperation()
+{
+    const LogCapture log;
+    connect(m_api, &OvJsApi::sigCloseWindow, this, [] { qDebug("the signal"); });
+    const QStringList calls{callText(QStringLiteral("writeLog"), {{QStringLiteral("log"), 1}}),
+        callText(QStringLiteral("getAppInfo")), callText(QStringLiteral("closeWindow"))};
+    for (const QString &call : calls)
+        m_api->callJsApi(call);
+    QStringList begins;
+    for (const LogMessage &message : LogCapture::messages()) {
+        const QString begin
+            = message.text.section(QLatin1Char('{'), 0, 0).section(QStringLiteral(" --->"), 0, 0);
+        QVERIFY(message.type == QtInfoMsg || message.type == QtDebugMsg);
+        begins << (message.type == QtInfoMsg ? "info: " : "debug: ") + begin;
+    }
+    QCOMPARE(begins,
+        (QStringList{"info: webLog", "debug: writeLog called, params", "debug: publishResult:(",
+            "debug: getAppInfo called, params", "debug: the signal", "debug: closeWindow called, params"}));
+}
+
 void TestOvJsApi::writeLogReachesTheLog()
 {
     const LogCapture log;
     m_api->callJsApi(
         callText(QStringLiteral("writeLog"), {{QStringLiteral("log"), QStringLiteral("a \"b\" ü")}}));
     QVERIFY(LogCapture::text().contains(QStringLiteral("webLog ---> a \"b\" ü")));
+}
+
+void TestOvJsApi::resultTextIsAFunctionCall()
+{
+    const LogCapture log;
+    m_api->callJsApi(
+        callText(QStringLiteral("getAppInfo"), {{QStringLiteral("callback"), QStringLiteral("got")}}));
+    QCOMPARE(LogCapture::text().filter(QStringLiteral("publishResult:")),
+        QStringList{"publishResult:got({\n    \"appVersion\": \"1.2.5\"\n}\n)"});
 }
 
 void TestOvJsApi::noCallbackRunsNoFunction()
@@ -295,6 +379,48 @@ void TestOvJsApi::execProcessCrash()
     QCOMPARE(results().at(0).toObject().value(QStringLiteral("code")).toInt(), 1);
     QCOMPARE(results().at(0).toObject().value(QStringLiteral("msg")).toString(), QStringLiteral("Crashed"));
     QCOMPARE(results().at(1).toObject().value(QStringLiteral("msg")).toString(), QString());
+    QCOMPARE(results().at(1).toObject().value(QStringLiteral("code")).toInt(), SIGSEGV);
+}
+
+void TestOvJsApi::execProcessOutputIsInTheLocalCodePage_data()
+{
+    QTest::addColumn<QByteArray>("codePage");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("UTF-8") << QByteArray("UTF-8") << QStringLiteral("\u00e9");
+    QTest::newRow("Latin 1") << QByteArray("ISO-8859-1") << QStringLiteral("\u00c3\u00a9");
+}
+
+void TestOvJsApi::execProcessOutputIsInTheLocalCodePage()
+{
+    QFETCH(QByteArray, codePage);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName(codePage));
+    const auto reset = qScopeGuard([] { QTextCodec::setCodecForLocale(nullptr); });
+    exec(script(QStringLiteral("accent"), R"(printf '\303\251')"));
+    waitForResults(1);
+    QTEST(results().at(0).toObject().value(QStringLiteral("msg")).toString(), "text");
+}
+
+void TestOvJsApi::finishedProcessIsDeleted()
+{
+    exec(script(QStringLiteral("short"), "exit 0"));
+    const QList<QProcess *> processes = m_api->findChildren<QProcess *>();
+    QCOMPARE(processes.size(), 1);
+    const QPointer<QProcess> process = processes.constFirst();
+    waitForResults(1);
+    QTRY_VERIFY(process.isNull());
+}
+
+// It never finishes; it goes with the page.
+void TestOvJsApi::processThatFailedToStartIsKept()
+{
+    exec(m_dir.filePath(QStringLiteral("missing")));
+    waitForResults(1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    const QList<QProcess *> processes = m_api->findChildren<QProcess *>();
+    QCOMPARE(processes.size(), 1);
+    const QPointer<QProcess> process = processes.constFirst();
+    m_view.reset();
+    QVERIFY(process.isNull());
 }
 
 void TestOvJsApi::stopExecProcess()

@@ -1,6 +1,9 @@
 #include "Recorder.h"
 #include "WebTestSupport.h"
 
+#include "../app/QmFile.h"
+
+#include "app/TranslateManager.h"
 #include "base/AppPaths.h"
 #include "net/HttpHelper.h"
 #include "web/OvJsApi.h"
@@ -12,7 +15,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QImage>
 #include <QMetaMethod>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -21,6 +26,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
+
+#include <functional>
+#include <memory>
 
 using webtest::evaluate;
 
@@ -34,6 +42,11 @@ QtMessageHandler messageHandler()
     return current;
 }
 
+QString shownText()
+{
+    return QCoreApplication::translate("Dialog", "Confirm");
+}
+
 OvMainWindow *windowUnderConstruction()
 {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -42,6 +55,27 @@ OvMainWindow *windowUnderConstruction()
     }
     return nullptr;
 }
+
+// Calls back when the application is told of a change of language.
+class LanguageWatcher : public QObject
+{
+public:
+    explicit LanguageWatcher(std::function<void()> onChange)
+        : m_onChange(std::move(onChange))
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (watched == QCoreApplication::instance() && event->type() == QEvent::LanguageChange)
+            m_onChange();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const std::function<void()> m_onChange;
+};
 
 } // namespace
 
@@ -55,6 +89,9 @@ private slots:
     void startUpOrder();
     void interfaceOrder();
     void loginWindow();
+    void icon();
+    void bodyIsTransparent();
+    void shadowMarginOfTheSystem();
     void workingSize();
     void workingSizeOutOfRange_data();
     void workingSizeOutOfRange();
@@ -106,17 +143,34 @@ void TestOvMainWindow::startUpOrder()
                 ? QStringLiteral("no shortcut yet")
                 : QString());
         seen << (messageHandler() == handlerBefore ? QStringLiteral("no log handler yet") : QString());
+        seen << shownText();
+    });
+    // English comes next, before the shortcut and the log.
+    QTemporaryDir translations;
+    QVERIFY(QmFile::write(translations.filePath(QStringLiteral("en_US.qm")), "Dialog", "Confirm",
+        QStringLiteral("translated")));
+    TranslateManager::instance()->setTranslationDir(translations.path());
+    const LanguageWatcher watcher([&seen, handlerBefore] {
+        seen << QStringLiteral("language changes");
+        const auto shortcuts
+            = windowUnderConstruction()->findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
+        seen << (shortcuts.isEmpty() ? QStringLiteral("still no shortcut") : QString());
+        seen << (messageHandler() == handlerBefore ? QStringLiteral("still no log handler") : QString());
     });
     {
         const OvMainWindow window;
         Recorder::instance().setObserver({});
+        TranslateManager::instance()->setTranslationDir({});
+        QCOMPARE(shownText(), QStringLiteral("translated"));
         const QString logDir
             = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/log");
         QCOMPARE(seen,
             (QStringList{QStringLiteral("SWRuntime::init(1, \"%1\")").arg(logDir),
                 QStringLiteral("log directory"), QStringLiteral("page API published"),
                 QStringLiteral("no title bar"), QStringLiteral("no shortcut yet"),
-                QStringLiteral("no log handler yet")}));
+                QStringLiteral("no log handler yet"), QStringLiteral("Confirm"),
+                QStringLiteral("language changes"), QStringLiteral("still no shortcut"),
+                QStringLiteral("still no log handler")}));
         QVERIFY(messageHandler() != handlerBefore);
         const auto shortcuts = window.findChildren<QShortcut *>(QString(), Qt::FindDirectChildrenOnly);
         QCOMPARE(shortcuts.size(), 1);
@@ -155,6 +209,32 @@ void TestOvMainWindow::loginWindow()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(window.size(), QSize(320, 508));
     QCOMPARE(window.webContainer()->size(), QSize(300, 488));
+}
+
+void TestOvMainWindow::icon()
+{
+    const OvMainWindow window;
+    const QList<QSize> sizes = window.windowIcon().availableSizes();
+    QVERIFY(sizes.contains(QSize(16, 16)));
+    QVERIFY(sizes.contains(QSize(256, 256)));
+}
+
+// Where the page paints nothing the window is as good as invisible, in its body as in its margin.
+void TestOvMainWindow::bodyIsTransparent()
+{
+    OvMainWindow window;
+    window.webContainer()->hide();
+    QImage image(window.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    window.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    QCOMPARE(image.pixel(5, 254), qRgba(0, 0, 0, 1));
+    QCOMPARE(image.pixel(160, 254), qRgba(0, 0, 0, 1));
+}
+
+void TestOvMainWindow::shadowMarginOfTheSystem()
+{
+    QCOMPARE(OvMainWindow::normalShadowMargin(true), 0);
+    QCOMPARE(OvMainWindow::normalShadowMargin(false), 10);
 }
 
 void TestOvMainWindow::workingSize()
@@ -294,13 +374,14 @@ void TestOvMainWindow::languageReachesTheRequests()
 
 void TestOvMainWindow::closingEndsTheEventLoop()
 {
-    OvMainWindow window;
-    window.show();
+    auto window = std::make_unique<OvMainWindow>();
+    window->show();
     QWidget other; // another window that stays open
     other.show();
-    QPointer<OvWebContainer> container = window.webContainer();
-    QTimer::singleShot(
-        0, &window, [&] { window.jsApi()->callJsApi(webtest::callText(QStringLiteral("closeWindow"))); });
+    QPointer<OvWebContainer> container = window->webContainer();
+    Recorder::instance().takeCalls();
+    QTimer::singleShot(0, window.get(),
+        [&] { window->jsApi()->callJsApi(webtest::callText(QStringLiteral("closeWindow"))); });
     QTimer watchdog;
     bool timedOut = false;
     connect(&watchdog, &QTimer::timeout, qApp, [&] {
@@ -310,9 +391,13 @@ void TestOvMainWindow::closingEndsTheEventLoop()
     watchdog.start(10000);
     QCOMPARE(QApplication::exec(), 0);
     QVERIFY(!timedOut);
-    QVERIFY(!window.isVisible());
+    QVERIFY(!window->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(container.isNull());
+    // The runtime ends once, with the window.
+    QVERIFY(Recorder::instance().calls().empty());
+    window.reset();
+    QCOMPARE(Recorder::instance().takeCalls(), std::vector<std::string>{"SWRuntime::deinit()"});
 }
 
 void TestOvMainWindow::runtimeEndsWithTheWindow()
@@ -362,13 +447,27 @@ void TestOvMainWindow::installerAtOnceClosesTheWindow()
     QVERIFY(!window.isVisible());
 }
 
+// A program that only the search path knows is no file that the updater has left: it must not be started in
+// its place.
 void TestOvMainWindow::missingInstallerIsNotStarted()
 {
-    const webtest::LogCapture log;
+    const QString marker = m_dir.filePath(QStringLiteral("from-the-search-path"));
+    const QFileInfo installer(m_dir.filePath(QStringLiteral("only-on-the-path.sh")));
+    QVERIFY(QFile::rename(installerScript(marker), installer.filePath()));
+    const QByteArray searchPath = qgetenv("PATH");
+    qputenv("PATH", installer.path().toLocal8Bit() + ':' + searchPath);
+    const auto restore = qScopeGuard([searchPath] { qputenv("PATH", searchPath); });
     auto window = std::make_unique<OvMainWindow>();
-    window->onInstallNewVersionApp(m_dir.filePath(QStringLiteral("missing")), true);
+    window->onInstallNewVersionApp(installer.fileName(), true);
     window.reset();
-    QVERIFY(!QFile::exists(m_dir.filePath(QStringLiteral("missing"))));
+
+    // One that is there, started afterwards, has run: so would the other.
+    const QString laterMarker = m_dir.filePath(QStringLiteral("later"));
+    window = std::make_unique<OvMainWindow>();
+    window->onInstallNewVersionApp(installerScript(laterMarker), true);
+    window.reset();
+    QTRY_VERIFY(QFile::exists(laterMarker));
+    QVERIFY(!QFile::exists(marker));
 }
 
 void TestOvMainWindow::bridgeSignalsReachTheSlots()

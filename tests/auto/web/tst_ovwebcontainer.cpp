@@ -29,6 +29,8 @@ private slots:
     void oneProfileForAll();
     void pageKnowsTheApiRoot();
     void failedLoadLeavesTheView();
+    void loadsDecideWhatIsShown();
+    void requestForANewWindowIsIgnored();
     void jsApiIsPublishedOnce();
     void pageReachesTheJsApi();
     void devToolsOnlyWhenAllowed();
@@ -104,6 +106,39 @@ void TestOvWebContainer::failedLoadLeavesTheView()
     QCOMPARE(layout->currentWidget(), other);
     container.onLoadFinished(true);
     QCOMPARE(layout->currentWidget(), container.webView());
+}
+
+void TestOvWebContainer::loadsDecideWhatIsShown()
+{
+    OvWebContainer container(nullptr);
+    auto *layout = qobject_cast<QStackedLayout *>(container.layout());
+    auto *other = new QWidget;
+    layout->addWidget(other);
+    layout->setCurrentWidget(other);
+    QTemporaryDir dir;
+    QSignalSpy loaded(container.webView(), &QWebEngineView::loadFinished);
+    container.load(QStringLiteral("file:///") + dir.filePath(QStringLiteral("missing.html")));
+    QVERIFY(loaded.wait(20000));
+    QVERIFY(!loaded.at(0).at(0).toBool());
+    QCOMPARE(layout->currentWidget(), other);
+    load(&container);
+    QCOMPARE(layout->currentWidget(), container.webView());
+}
+
+void TestOvWebContainer::requestForANewWindowIsIgnored()
+{
+    OvWebContainer container(nullptr);
+    load(&container);
+    QWebEnginePage *page = container.webView()->page();
+    const QUrl url = page->url();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    evaluate(page, QStringLiteral("window.open('about:blank') === null"));
+    evaluate(page,
+        QStringLiteral("const link = document.createElement('a'); link.href = 'about:blank';"
+                       "link.target = '_blank'; document.body.appendChild(link); link.click(); 1"));
+    evaluate(page, QStringLiteral("1")); // what was asked for is through
+    QCOMPARE(QApplication::topLevelWidgets(), windows);
+    QCOMPARE(page->url(), url);
 }
 
 void TestOvWebContainer::jsApiIsPublishedOnce()

@@ -36,6 +36,18 @@ public:
     QPoint middle() const { return geometry().center(); }
 };
 
+// Counts how often it is painted.
+class PaintCounter : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *) override { ++paints; }
+};
+
 // Takes hold of what is under the pointer.
 void pressAt(QWidget *window, const QPoint &globalPos)
 {
@@ -60,6 +72,7 @@ private slots:
     void fixedContentSize();
     void moveUpdatesTheSize();
     void movesAreFollowedTogether();
+    void sizeUpdateRepaintsTheContent();
     void maximizeAndRestore();
     void maximizeTwice();
     void restoreWithoutMaximize();
@@ -191,6 +204,33 @@ void TestOvWindowBase::moveUpdatesTheSize()
     window.move(140, 250);
     QVERIFY(window.updates > 0);
     QCOMPARE(window.size(), QSize(520, 420));
+}
+
+// Also what lies deeper, such as a window of the content's own, and also when the size stays the same.
+void TestOvWindowBase::sizeUpdateRepaintsTheContent()
+{
+    Window window;
+    auto *content = new PaintCounter;
+    window.mainLayout()->addWidget(content);
+    auto *nested = new PaintCounter(content, Qt::Tool);
+    nested->setGeometry(1000, 300, 50, 50);
+    window.show();
+    nested->show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(QTest::qWaitForWindowExposed(nested));
+    // What the showing has queued is done once a further update has been painted.
+    content->update();
+    nested->update();
+    const int contentPaints = content->paints;
+    const int nestedPaints = nested->paints;
+    QTRY_VERIFY(content->paints > contentPaints && nested->paints > nestedPaints);
+    QCoreApplication::processEvents();
+    content->paints = 0;
+    nested->paints = 0;
+    const QSize size = window.size();
+    window.updateWindowSize();
+    QTRY_VERIFY(content->paints > 0 && nested->paints > 0);
+    QCOMPARE(window.size(), size);
 }
 
 void TestOvWindowBase::maximizeAndRestore()

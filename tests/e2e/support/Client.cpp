@@ -31,6 +31,11 @@ void Client::setApiBaseUrl(const QString &apiBaseUrl)
     m_environment.insert(QStringLiteral("ORVANE_API_BASE_URL"), apiBaseUrl);
 }
 
+void Client::setVariable(const QString &name, const QString &value)
+{
+    m_environment.insert(name, value);
+}
+
 void Client::start()
 {
     m_process.setProcessEnvironment(m_environment);

@@ -16,6 +16,8 @@ public:
 
     // The service it talks to; before start.
     void setApiBaseUrl(const QString &apiBaseUrl);
+    // A variable of its environment; before start.
+    void setVariable(const QString &name, const QString &value);
     void start();
     // Throws StepFailed when it does not end by itself.
     void waitForExit(int timeoutMs = 10000);

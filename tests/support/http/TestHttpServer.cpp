@@ -57,6 +57,11 @@ void TestHttpServer::setAnswer(const QByteArray &body, int status)
     m_status = status;
 }
 
+void TestHttpServer::setAnswerHeaders(const QByteArray &lines)
+{
+    m_headerLines = lines;
+}
+
 void TestHttpServer::hold()
 {
     m_holding = true;
@@ -110,6 +115,6 @@ void TestHttpServer::answer(QTcpSocket *socket)
     socket->write("HTTP/1.1 " + QByteArray::number(m_status)
         + " Answer\r\nContent-Type: application/json\r\n"
           "Content-Length: "
-        + QByteArray::number(m_body.size()) + "\r\nConnection: close\r\n\r\n" + m_body);
+        + QByteArray::number(m_body.size()) + "\r\nConnection: close\r\n" + m_headerLines + "\r\n" + m_body);
     socket->disconnectFromHost();
 }

@@ -38,6 +38,8 @@ public:
 
     // The answer to every request from now on; at first 200 with an empty JSON object.
     void setAnswer(const QByteArray &body, int status = 200);
+    // Further header lines of every answer from now on, each ending in "\r\n"; none at first.
+    void setAnswerHeaders(const QByteArray &lines);
     // Keeps the requests that come from now on waiting.
     void hold();
     // Gives the answer to the waiting requests and stops holding.
@@ -61,6 +63,7 @@ private:
     QVector<QTcpSocket *> m_waiting;
     QVector<Request> m_requests;
     QByteArray m_body = "{}";
+    QByteArray m_headerLines;
     int m_status = 200;
     bool m_holding = false;
 };
