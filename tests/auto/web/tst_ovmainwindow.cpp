@@ -329,6 +329,7 @@ void TestOvMainWindow::logoutReturnsToTheSignInPage()
     QFETCH(bool, maximized);
     OvMainWindow window;
     window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
     window.onSetWindowSize(1120, 760);
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     if (maximized) {
