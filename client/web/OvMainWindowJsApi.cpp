@@ -45,8 +45,8 @@ void deleteAll(const QHash<QString, QPointer<Window>> &windows)
 template <typename Window>
 void closeAll(const QHash<QString, QPointer<Window>> &windows)
 {
-    const QHash<QString, QPointer<Window>> copy = windows; // closing changes what is open
-    for (const QPointer<Window> &window : copy) {
+    const QList<QPointer<Window>> open = windows.values(); // closing changes what is open
+    for (const QPointer<Window> &window : open) {
         if (window)
             window->close();
     }

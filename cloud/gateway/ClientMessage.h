@@ -118,7 +118,7 @@ using ClientMessage = std::variant<client::Login, client::VideoLevels, client::C
     client::Malformed>;
 
 // The longest message a client may send, bytes: a picture of 4 MiB and what goes around it.
-constexpr std::size_t MaxClientMessageBytes = std::size_t(4) * 1024 * 1024 + 64 * 1024;
+constexpr std::size_t MaxClientMessageBytes = std::size_t(4) * 1024 * 1024 + std::size_t(64) * 1024;
 
 // Reads one binary message. Never throws for what is in it; any thread.
 ClientMessage readClientMessage(std::string_view bytes);
