@@ -55,6 +55,8 @@ describe('places on the picture', () => {
   it('are on a picture that keeps its shape', () => {
     expect(fittingSize({ width: 1000, height: 640 }, REMOTE, false)).toEqual({ width: 360, height: 640 })
     expect(fittingSize({ width: 640, height: 900 }, REMOTE, true)).toEqual({ width: 640, height: 360 })
+    // The device window's own area, which has the screen's shape but for a fraction of a pixel.
+    expect(fittingSize({ width: 346, height: 615 }, REMOTE, false)).toEqual({ width: 346, height: 615 })
     expect(windowSizeFor(REMOTE, false)).toEqual({ width: 390, height: 655 })
     expect(windowSizeFor(REMOTE, true)).toEqual({ width: 844, height: 490 })
   })

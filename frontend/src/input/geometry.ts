@@ -33,9 +33,10 @@ export function remotePixel({ x, y, shown }: Spot, remote: Size, landscape: bool
   }
 }
 
-// The largest size of the remote screen's shape, turned if need be, within the given area.
+// The largest size of the remote screen's shape, turned if need be, within the given area; whole pixels, so that
+// no line of the background is left beside a picture that fits but for a fraction.
 export function fittingSize(area: Size, remote: Size, landscape: boolean): Size {
   const [width, height] = landscape ? [remote.height, remote.width] : [remote.width, remote.height]
   const scale = Math.min(area.width / width, area.height / height)
-  return { width: Math.floor(width * scale), height: Math.floor(height * scale) }
+  return { width: Math.round(width * scale), height: Math.round(height * scale) }
 }
