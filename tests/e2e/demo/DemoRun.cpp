@@ -227,11 +227,14 @@ void DemoRun::closeDevice()
     say(QStringLiteral("closed the device window; the service has its session back"));
 }
 
-// The page's console ends in the log too.
+// The page's console ends in the log too. The window system's protocol errors do not count: Qt reports one
+// when the window manager has already destroyed the frame of a window that Qt still asks the position of.
 void DemoRun::checkLog()
 {
     const QStringList lines = m_client.log().split(QLatin1Char('\n'));
     for (const QString &line : lines) {
+        if (line.contains(QLatin1String("QXcbConnection: XCB error")))
+            continue;
         if (line.contains(QLatin1String(" [WARNING]: ")) || line.contains(QLatin1String(" [CRITICAL]: ")))
             throw StepFailed(QStringLiteral("the client's log has: %1").arg(line));
     }

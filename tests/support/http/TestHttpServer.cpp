@@ -44,7 +44,12 @@ TestHttpServer::TestHttpServer(QObject *parent)
         qFatal("the test server cannot listen: %s", qPrintable(m_server.errorString()));
 }
 
-TestHttpServer::~TestHttpServer() = default;
+TestHttpServer::~TestHttpServer()
+{
+    // The sockets die after the members that their handlers use; an open one reports its end while it dies.
+    for (QTcpSocket *socket : m_server.findChildren<QTcpSocket *>())
+        socket->disconnect(this);
+}
 
 QString TestHttpServer::baseUrl() const
 {
