@@ -8,8 +8,8 @@ namespace {
 
 constexpr QSize PortraitContent(390, 640);
 constexpr QSize LandscapeContent(650, 380);
-constexpr QSize SmallestPortraitContent(320, 525);
-constexpr QSize SmallestLandscapeContent(453, 265);
+constexpr QSize SmallestPortraitContent(345, 560);
+constexpr QSize SmallestLandscapeContent(570, 335);
 
 } // namespace
 

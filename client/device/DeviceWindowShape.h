@@ -16,7 +16,7 @@ constexpr int maximizedLandscapeWidth = 1300;
 
 // The content of a new window.
 QSize contentSize(ScreenOrientation orientation);
-// The smallest content in which the bars have room.
+// The smallest content in which the bars and the stand-by page have room.
 QSize smallestContentSize(ScreenOrientation orientation);
 
 // The content after its video area has been turned by a quarter; twice gives the same again.

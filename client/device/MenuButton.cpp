@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QIcon>
 #include <QLabel>
+#include <QPainter>
 
 namespace {
 
@@ -16,14 +17,10 @@ constexpr int LabelPixels = 13;
 constexpr int LabelMarginX = 8;
 constexpr int LabelMarginY = 4;
 constexpr QRgb BubbleColour = qRgb(48, 49, 51);
+constexpr QRgb HoverColour = qRgba(255, 255, 255, 36);
+constexpr QRgb PressedColour = qRgba(255, 255, 255, 20);
+constexpr double DisabledOpacity = 0.35;
 } // namespace Look
-
-QString buttonStyle()
-{
-    return QStringLiteral("QPushButton { border: none; background: transparent; }"
-                          "QPushButton:hover { background: rgba(255, 255, 255, 36); }"
-                          "QPushButton:pressed { background: rgba(255, 255, 255, 20); }");
-}
 
 } // namespace
 
@@ -37,7 +34,7 @@ MenuButton::MenuButton(const QString &iconPath, QWidget *parent)
     setFixedSize(Look::Extent, Look::Extent);
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::NoFocus);
-    setStyleSheet(buttonStyle());
+    setAttribute(Qt::WA_Hover);
 
     QFont font = m_labelText->font();
     font.setPixelSize(Look::LabelPixels);
@@ -106,4 +103,18 @@ void MenuButton::mousePressEvent(QMouseEvent *event)
 {
     m_bubble->hide();
     QPushButton::mousePressEvent(event);
+}
+
+void MenuButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (isDown())
+        painter.fillRect(rect(), QColor::fromRgba(Look::PressedColour));
+    else if (isEnabled() && underMouse())
+        painter.fillRect(rect(), QColor::fromRgba(Look::HoverColour));
+    if (!isEnabled())
+        painter.setOpacity(Look::DisabledOpacity);
+    QRect iconRect(QPoint(0, 0), iconSize());
+    iconRect.moveCenter(rect().center());
+    icon().paint(&painter, iconRect);
 }

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace {
@@ -35,7 +36,7 @@ QString listStyle()
                           "QComboBox QAbstractItemView { background: #303133; color: #E5E7ED; border: none;"
                           " outline: none; padding: 4px 0; selection-background-color: #4A4B4D;"
                           " selection-color: white; }"
-                          "QComboBox QAbstractItemView::item { min-height: 26px; padding: 0 4px; }")
+                          "QComboBox QAbstractItemView::item { min-height: 26px; padding: 0 8px; }")
         .arg(Look::TextPixels);
 }
 
@@ -50,6 +51,7 @@ QualityBox::QualityBox(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
     setMaxVisibleItems(count());
+    setItemDelegate(new QStyledItemDelegate(this)); // the one that styles the list's rows
     setStyleSheet(listStyle());
     setAttribute(Qt::WA_Hover);
     setTexts();

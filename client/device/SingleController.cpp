@@ -39,6 +39,7 @@ constexpr int DelayPixels = 12;
 constexpr int DelayWidth = 64; // holds "9999ms"
 constexpr int DelayMargin = 8;
 constexpr QRgb TitleColour = qRgb(255, 255, 255);
+constexpr QRgb Body = qRgb(68, 68, 68); // as the bars: it shows through where pixels are shared
 constexpr int ToastSeconds = 3;
 } // namespace Look
 
@@ -71,6 +72,7 @@ SingleController::SingleController(const QString &serviceId, const QString &devi
     , m_stream(std::make_shared<StreamController>())
     , m_standbyTimer(new StandbyTimer(this))
 {
+    setBackgroundColor(QColor(Look::Body));
     createTitle();
     showTitle();
     createPages();

@@ -34,7 +34,7 @@ void StandbyTimer::stop()
 
 void StandbyTimer::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_timerId) {
+    if (event->timerId() != m_timerId || m_timerId == NoTimer) {
         if (m_running.remove(event->timerId()))
             killTimer(event->timerId());
         return;
