@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 
 namespace {
 
@@ -22,12 +23,28 @@ QString editStyle()
                           "border-radius: 3px; padding: 0 4px; selection-background-color: #07CCFB; }");
 }
 
+// A label that ends in an ellipsis where its text is too long.
+class ElidedLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(contentsRect(), static_cast<int>(Qt::AlignVCenter | Qt::AlignLeading),
+            fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+    }
+};
+
 } // namespace
 
 OvComboBoxEditableItem::OvComboBoxEditableItem(const QString &text, QWidget *parent)
     : QWidget(parent)
     , m_text(text)
-    , m_label(new QLabel(this))
+    , m_label(new ElidedLabel(this))
     , m_edit(new QLineEdit(this))
 {
     setAttribute(Qt::WA_InputMethodEnabled);
@@ -60,9 +77,9 @@ OvComboBoxEditableItem::~OvComboBoxEditableItem() = default;
 void OvComboBoxEditableItem::setTextColor(const QColor &color)
 {
     m_textColor = color;
-    QPalette palette = m_label->palette();
-    palette.setColor(QPalette::WindowText, color);
-    m_label->setPalette(palette);
+    // The list's own style would overrule a palette.
+    m_label->setStyleSheet(QStringLiteral("color: %1;").arg(color.name(QColor::HexArgb)));
+    m_label->ensurePolished();
 }
 
 void OvComboBoxEditableItem::showLabel()

@@ -171,5 +171,9 @@ void OvToast::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shape(), QColor::fromRgba(Look::background));
+    // Where the window is cut to its shape, there is nothing for a smooth edge to be mixed with.
+    if (mask().isEmpty())
+        painter.fillPath(shape(), QColor::fromRgba(Look::background));
+    else
+        painter.fillRect(rect(), QColor::fromRgba(Look::background));
 }

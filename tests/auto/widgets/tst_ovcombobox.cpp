@@ -42,6 +42,7 @@ private slots:
     void cleanupTestCase() { delete m_window; }
     void construction();
     void looks();
+    void rowLooks();
     void addsRows();
     void rowsFillTheList();
     void rowsAreNarrowedByTheScrollBar();
@@ -126,6 +127,26 @@ void TestOvComboBox::looks()
             darkest = qMin(darkest, qGray(image.pixel(x, y)));
     }
     QVERIFY(qAbs(darkest - qGray(qRgb(0x60, 0x62, 0x66))) < 40); // the text
+}
+
+// White on dark, and an ellipsis where there is more.
+void TestOvComboBox::rowLooks()
+{
+    m_box->addItem(QStringLiteral("MMMMM").repeated(30));
+    m_box->showPopup();
+    const QImage image = m_box->listView()->viewport()->grab().toImage();
+    const auto brightest = [&image](const QRect &rect) {
+        int value = 0;
+        for (int x = rect.left(); x <= rect.right(); ++x) {
+            for (int y = rect.top(); y <= rect.bottom(); ++y)
+                value = qMax(value, qGray(image.pixel(x, y)));
+        }
+        return value;
+    };
+    QVERIFY(brightest(QRect(0, 0, 100, 32)) > 240);
+    const int right = m_box->editableItem(3)->geometry().right() - 8;
+    QVERIFY(brightest(QRect(right - 12, 3 * 32 + 4, 12, 12)) < 100); // above the dots
+    QVERIFY(brightest(QRect(right - 12, 3 * 32 + 16, 12, 12)) > 150);
 }
 
 void TestOvComboBox::addsRows()
