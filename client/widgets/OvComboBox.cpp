@@ -41,12 +41,10 @@ void OvComboBox::addItem(const QString &text)
     auto *row = new QListWidgetItem(text, m_view);
     auto *widget = new OvComboBoxEditableItem(text);
     m_view->setItemWidget(row, widget);
-    // The widget of a removed row lives on for a moment.
+    // The widget of a removed row lives on for a moment, but belongs to no row any more.
     connect(widget, &OvComboBoxEditableItem::sigItemTextChanged, this,
-        [this, index = QPersistentModelIndex(model()->index(count() - 1, 0))](const QString &changed) {
-            if (index.isValid())
-                model()->setData(index, changed);
-        });
+        [this, index = QPersistentModelIndex(model()->index(count() - 1, 0))](
+            const QString &changed) { model()->setData(index, changed); });
 }
 
 OvComboBoxEditableItem *OvComboBox::editableItem(int row) const
