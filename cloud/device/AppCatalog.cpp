@@ -1,5 +1,6 @@
 #include "device/AppCatalog.h"
 
+#include "device/CameraApp.h"
 #include "device/LatencyApp.h"
 #include "device/ListApp.h"
 #include "device/NotesApp.h"
@@ -11,7 +12,7 @@ namespace orvane::cloud {
 const std::vector<AppKind> &installedApps()
 {
     static const std::vector<AppKind> apps{
-        AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video, AppKind::Latency};
+        AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video, AppKind::Latency, AppKind::Camera};
     return apps;
 }
 
@@ -30,6 +31,8 @@ QString appName(AppKind kind)
         return QStringLiteral("Video");
     case AppKind::Latency:
         return QStringLiteral("Latency");
+    case AppKind::Camera:
+        return QStringLiteral("Camera");
     }
     return {};
 }
@@ -60,6 +63,8 @@ std::unique_ptr<App> makeApp(AppKind kind, App::Host host)
         return std::make_unique<VideoApp>(std::move(host));
     case AppKind::Latency:
         return std::make_unique<LatencyApp>(std::move(host));
+    case AppKind::Camera:
+        return std::make_unique<CameraApp>(std::move(host));
     case AppKind::Home:
         break;
     }

@@ -17,6 +17,7 @@ enum class AppKind {
     List,
     Video,
     Latency,
+    Camera,
 };
 
 // The apps that the home screen offers, in its order.

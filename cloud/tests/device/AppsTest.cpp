@@ -29,11 +29,12 @@ protected:
 TEST_F(AppsTest, launcherOpensAppsByTouch)
 {
     EXPECT_EQ(app(), "Home");
-    EXPECT_EQ(state()["apps"].toArray(), (QJsonArray{"Paint", "Notes", "List", "Video", "Latency"}));
+    EXPECT_EQ(
+        state()["apps"].toArray(), (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Camera"}));
     tap(168, 850);
     EXPECT_EQ(app(), "Paint");
     click(KEY_HOMEPAGE);
-    tap(453, 1040);
+    tap(360, 1040);
     EXPECT_EQ(app(), "Latency");
     click(KEY_BACK);
     EXPECT_EQ(app(), "Home");
@@ -45,11 +46,11 @@ TEST_F(AppsTest, launcherOpensAppsByTouch)
 
 TEST_F(AppsTest, openAppByName)
 {
-    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Home"}) {
+    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Camera", "Home"}) {
         EXPECT_TRUE(device.openApp(name));
         EXPECT_EQ(app(), name);
     }
-    for (const char *name : {"", "paint", "Camera", "Arena", "Settings", "Nothing"}) {
+    for (const char *name : {"", "paint", "Arena", "Settings", "Nothing"}) {
         EXPECT_FALSE(device.openApp(name)) << name;
     }
 }
