@@ -147,11 +147,11 @@ void tst_SingleController::newWindow()
     QCOMPARE(m_window->deviceName(), QStringLiteral("Aurora"));
     QCOMPARE(m_window->windowTitle(), QStringLiteral("Aurora"));
     QCOMPARE(m_window->titleBar()->title(), QStringLiteral("Aurora"));
-    QCOMPARE(m_window->contentSize(), QSize(340, 640));
-    QCOMPARE(m_window->size(), QSize(360, 660));
+    QCOMPARE(m_window->contentSize(), QSize(390, 640));
+    QCOMPARE(m_window->size(), QSize(410, 660));
     QVERIFY(m_window->findChild<LoadingPage *>()->isVisible());
     QVERIFY(!showsVideo());
-    QCOMPARE(m_window->findChild<LoadingPage *>()->size(), QSize(340, 600));
+    QCOMPARE(m_window->findChild<LoadingPage *>()->size(), QSize(390, 600));
 }
 
 void tst_SingleController::longNameIsCut()
@@ -160,7 +160,7 @@ void tst_SingleController::longNameIsCut()
     SingleController window(QStringLiteral("1"), name);
     window.show();
     QCOMPARE(window.windowTitle(), name);
-    QCOMPARE(window.size(), QSize(360, 660));
+    QCOMPARE(window.size(), QSize(410, 660));
     QVERIFY(window.titleBar()->title().endsWith(QChar(0x2026)));
 }
 
