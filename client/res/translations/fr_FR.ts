@@ -99,7 +99,7 @@
     <name>StandbyWidget</name>
     <message>
         <source>Not operating for a long time, has entered standby mode</source>
-        <translation>Longue période d’inactivité : le mode veille est activé</translation>
+        <translation>Longue période d’inactivité&#xa0;: le mode veille est activé</translation>
     </message>
     <message>
         <source>(standby mode can reduce traffic consumption, and applications within the device will continue to run)</source>
