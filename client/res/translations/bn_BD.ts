@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Exit device</source>
-        <translation>ডিভাইস থেকে বের হন</translation>
+        <translation>ডিভাইস ছাড়ুন</translation>
     </message>
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>

@@ -65,7 +65,7 @@
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
-        <translation>Automatik</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>720P HQ</source>

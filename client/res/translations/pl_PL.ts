@@ -65,7 +65,7 @@
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
-        <translation>Automat.</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>720P HQ</source>

@@ -65,7 +65,7 @@
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
-        <translation>Automático</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>720P HQ</source>
@@ -111,7 +111,7 @@
     </message>
     <message>
         <source>Exit device</source>
-        <translation>Sair do dispositivo</translation>
+        <translation>Sair</translation>
     </message>
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
