@@ -199,7 +199,11 @@ void OvBubble::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shape(), m_color);
+    // Where the window is cut to its shape, there is nothing for a smooth edge to be mixed with.
+    if (mask().isEmpty())
+        painter.fillPath(shape(), m_color);
+    else
+        painter.fillRect(rect(), m_color);
 }
 
 void OvBubble::resizeEvent(QResizeEvent *event)
