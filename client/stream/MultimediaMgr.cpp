@@ -54,10 +54,6 @@ MultimediaMgr::~MultimediaMgr()
 {
     m_timer->stop();
     m_camera->stop();
-    // The worker goes on its own thread; what connects it to objects of this one goes here.
-    m_timer->disconnect(m_worker);
-    m_imageCapture->disconnect(m_worker);
-    m_worker->disconnect(this);
     m_thread->quit();
     m_thread->wait();
 }

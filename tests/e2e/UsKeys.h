@@ -15,8 +15,8 @@ struct Row
                        // would take it, or would remember it
     int key; // Qt::Key
     const char *text; // what the key types; Nul = the character of that name
-    const char *press; // what the press becomes; none = the window takes it; "text T", or "down CODE", with "
-                       // shift" for a character that needs it; CODE as in linux/input-event-codes.h
+    const char *press; // what the press becomes: "text T", or "down CODE", with " shift" for a character that
+                       // needs it; CODE as in linux/input-event-codes.h. None = the window takes the press
     int up; // the code of the release
 };
 
