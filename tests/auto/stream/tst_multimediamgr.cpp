@@ -16,11 +16,14 @@
 #include <QImageReader>
 #include <QMetaMethod>
 #include <QRegularExpression>
-#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
 
 namespace {
 
@@ -57,18 +60,88 @@ std::unique_ptr<StreamController> session()
     return controller;
 }
 
+} // namespace
+
+// Stands in another thread's event queue. With the locks of the C++ library, which a thread sanitizer sees.
+class ThreadGate : public QObject
+{
+    Q_OBJECT
+
+public:
+    // Queues itself: `thread` waits here when its turn comes. Deleted on the thread when it has passed.
+    static std::shared_ptr<ThreadGate> putBefore(QThread *thread)
+    {
+        const std::shared_ptr<ThreadGate> gate(new ThreadGate, [](ThreadGate *g) { g->deleteLater(); });
+        gate->moveToThread(thread);
+        QMetaObject::invokeMethod(gate.get(), "pass", Qt::QueuedConnection);
+        return gate;
+    }
+    void waitUntilReached()
+    {
+        std::unique_lock<std::mutex> lock(m_lock);
+        m_changed.wait(lock, [this] { return m_reached; });
+    }
+    void open()
+    {
+        const std::lock_guard<std::mutex> lock(m_lock);
+        m_open = true;
+        m_changed.notify_all();
+    }
+
+public slots:
+    void pass()
+    {
+        std::unique_lock<std::mutex> lock(m_lock);
+        m_reached = true;
+        m_changed.notify_all();
+        m_changed.wait(lock, [this] { return m_open; });
+    }
+
+private:
+    std::mutex m_lock; // guards what follows
+    std::condition_variable m_changed;
+    bool m_reached = false;
+    bool m_open = false;
+};
+
+// Notes where it is called.
+class Caller : public QObject
+{
+    Q_OBJECT
+
+public:
+    QThread *waitForThread()
+    {
+        std::unique_lock<std::mutex> lock(m_lock);
+        m_changed.wait(lock, [this] { return m_thread != nullptr; });
+        return m_thread;
+    }
+
+public slots:
+    void note(const QByteArray &)
+    {
+        const std::lock_guard<std::mutex> lock(m_lock);
+        m_thread = QThread::currentThread();
+        m_changed.notify_all();
+    }
+
+private:
+    std::mutex m_lock; // guards what follows
+    std::condition_variable m_changed;
+    QThread *m_thread = nullptr;
+};
+
+namespace {
+
 // Has every event handled that is under way on either thread, so that nothing comes later unless the timer
 // or somebody else asks for it.
 void drain()
 {
-    auto *thread = manager().findChild<QThread *>();
     for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
-        QObject context;
-        context.moveToThread(thread);
-        QMetaObject::invokeMethod(
-            &context, [main = QThread::currentThread(), &context] { context.moveToThread(main); },
-            Qt::BlockingQueuedConnection);
+        const auto gate = ThreadGate::putBefore(manager().findChild<QThread *>());
+        gate->waitUntilReached();
+        gate->open();
     }
     QCoreApplication::processEvents();
 }
@@ -219,22 +292,14 @@ void tst_MultimediaMgr::stopEndsCameraAndTimerButNotTheThread()
 // While the thread is held up, pictures are captured and none is sent; afterwards all of them are.
 void tst_MultimediaMgr::everythingIsEncodedOnTheThread()
 {
-    QSemaphore held;
-    QSemaphore go;
-    QObject onThread;
-    onThread.moveToThread(manager().findChild<QThread *>());
-    QMetaObject::invokeMethod(&onThread, [&] {
-        held.release();
-        go.acquire();
-        onThread.moveToThread(qApp->thread()); // where it is destroyed
-    });
-    held.acquire();
+    const auto gate = ThreadGate::putBefore(manager().findChild<QThread *>());
+    gate->waitUntilReached();
     QSignalSpy pictures(&manager(), &MultimediaMgr::sigSendPicture);
     const int before = requests();
     manager().start();
     const bool captured = QTest::qWaitFor([&] { return requests() >= before + 3; });
     const int sentWhileHeld = pictures.count();
-    go.release();
+    gate->open();
     QVERIFY(captured);
     QCOMPARE(sentWhileHeld, 0);
     QTRY_VERIFY(pictures.count() >= 3);
@@ -245,21 +310,14 @@ void tst_MultimediaMgr::workerEncodesWhereItLives()
     QThread thread;
     auto *worker = new MultimediaWorker;
     worker->moveToThread(&thread);
-    QThread *encodedOn = nullptr;
-    QSemaphore done;
+    Caller caller;
     connect(
-        worker, &MultimediaWorker::sigSendPicture, worker,
-        [&] {
-            encodedOn = QThread::currentThread();
-            done.release();
-        },
-        Qt::DirectConnection);
+        worker, SIGNAL(sigSendPicture(QByteArray)), &caller, SLOT(note(QByteArray)), Qt::DirectConnection);
     connect(&thread, &QThread::finished, worker, &QObject::deleteLater);
     thread.start();
     QVERIFY(QMetaObject::invokeMethod(worker, "onImageCaptured", Qt::QueuedConnection, Q_ARG(int, 1),
         Q_ARG(QImage, numberedpicture::make(7, NativeSize))));
-    done.acquire();
-    QCOMPARE(encodedOn, &thread);
+    QCOMPARE(caller.waitForThread(), &thread);
     thread.quit();
     thread.wait();
 }

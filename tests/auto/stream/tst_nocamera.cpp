@@ -67,16 +67,13 @@ int main(int argc, char **argv)
 {
     int failures = 0;
     QPointer<QThread> thread;
-    bool ended = false;
     {
         QGuiApplication app(argc, argv);
         tst_NoCamera test;
         failures = QTest::qExec(&test, argc, argv);
         thread = MultimediaMgr::instance().findChild<QThread *>();
-        QObject::connect(
-            thread, &QThread::finished, thread, [&ended] { ended = true; }, Qt::DirectConnection);
     }
-    if (thread || !ended) {
+    if (thread) { // one that still runs cannot be destroyed
         qCritical("the camera's thread has outlived the application object");
         return 1;
     }
