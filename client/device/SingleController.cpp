@@ -120,14 +120,15 @@ void SingleController::showTitle()
         false, QColor(Look::TitleColour));
 }
 
+// The pages go into a layout that is in place: one without a window shows its first page as a window of its own.
 void SingleController::createPages()
 {
     m_pages = new QStackedLayout;
+    mainLayout()->addLayout(m_pages, 1);
     m_loadingPage = new LoadingPage;
     m_videoPage = createVideoPage();
     m_pages->addWidget(m_loadingPage);
     m_pages->addWidget(m_videoPage);
-    mainLayout()->addLayout(m_pages, 1);
 }
 
 QWidget *SingleController::createVideoPage()

@@ -3,6 +3,7 @@
 #include <QTimerEvent>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -17,28 +18,24 @@ StandbyTimer::StandbyTimer(QObject *parent)
 
 void StandbyTimer::restart()
 {
-    m_timerId = NoTimer;
-    if (m_minutes <= 0)
-        return;
-    m_timerId = startTimer(qMin(m_minutes, LongestMinutes) * MsPerMinute, Qt::CoarseTimer);
-    m_running.insert(m_timerId);
+    const int before = std::exchange(m_timerId, NoTimer);
+    if (m_minutes > 0)
+        m_timerId = startTimer(qMin(m_minutes, LongestMinutes) * MsPerMinute, Qt::CoarseTimer);
+    if (before != NoTimer)
+        killTimer(before); // not earlier: its number would be given to the new one
 }
 
 void StandbyTimer::stop()
 {
+    if (m_timerId != NoTimer)
+        killTimer(m_timerId);
     m_timerId = NoTimer;
-    for (const int id : qAsConst(m_running))
-        killTimer(id);
-    m_running.clear();
 }
 
 void StandbyTimer::timerEvent(QTimerEvent *event)
 {
-    if (event->timerId() != m_timerId || m_timerId == NoTimer) {
-        if (m_running.remove(event->timerId()))
-            killTimer(event->timerId());
+    if (m_timerId == NoTimer || event->timerId() != m_timerId)
         return;
-    }
     stop();
     emit sigExpired();
 }

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <QSet>
 
 // Counts the time without input after which a device window goes to stand-by. Each restart begins a timer of
-// its own and only the newest counts: earlier ones are not touched by a restart, which happens with every
-// move of a finger, and are disposed of when their event comes.
+// its own in place of the one before; an event of an earlier one that is still under way does not count.
 //
 // GUI thread; child of its window.
 class StandbyTimer : public QObject
@@ -25,7 +23,6 @@ public:
     int timerId() const { return m_timerId; }
 
     void restart();
-    // Ends every timer.
     void stop();
 
 signals:
@@ -40,5 +37,4 @@ private:
 
     int m_minutes = defaultMinutes;
     int m_timerId = NoTimer;
-    QSet<int> m_running; // m_timerId and earlier ones
 };

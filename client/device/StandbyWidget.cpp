@@ -22,7 +22,7 @@ constexpr int ButtonTextMargin = 6;
 constexpr int NotePixels = 13;
 constexpr int Spacing = 8;
 constexpr int SideMargin = 12; // of the texts
-constexpr QRgb Scrim = qRgba(0, 0, 0, 165);
+constexpr QRgb Scrim = qRgba(0, 0, 0, 200);
 
 struct Shape
 {

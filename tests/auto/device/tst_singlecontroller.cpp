@@ -26,6 +26,7 @@ private slots:
     void init();
     void cleanup();
     void newWindow();
+    void noPartIsEverAWindow();
     void longNameIsCut();
     void applyRequest();
     void granted();
@@ -120,6 +121,26 @@ void tst_SingleController::newWindow()
     QVERIFY(m_window->findChild<LoadingPage *>()->isVisible());
     QVERIFY(!showsVideo());
     QCOMPARE(m_window->findChild<LoadingPage *>()->size(), QSize(390, 600));
+}
+
+// A part that is shown before it has its place would flash on the screen as a window of its own.
+void tst_SingleController::noPartIsEverAWindow()
+{
+    struct Watch : QObject
+    {
+        int windows = 0;
+
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            const auto *widget = qobject_cast<QWidget *>(watched);
+            if (widget && event->type() == QEvent::Show && widget->isWindow())
+                ++windows;
+            return false;
+        }
+    } watch;
+    qApp->installEventFilter(&watch);
+    const SingleController window(QStringLiteral("service"), QStringLiteral("Phone"));
+    QCOMPARE(watch.windows, 0);
 }
 
 void tst_SingleController::longNameIsCut()

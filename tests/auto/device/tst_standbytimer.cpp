@@ -14,12 +14,12 @@ private slots:
     void minutes();
     void restartTakesNewTimer();
     void onlyTheNewestCounts();
-    void staleTimersAreDisposedOf();
+    void onlyOneTimerRuns();
     void noMinutes_data();
     void noMinutes();
     void veryLong();
     void stop();
-    void expiryEndsEveryTimer();
+    void expiryEndsTheTimer();
 
 private:
     static void fire(StandbyTimer &timer, int id);
@@ -59,7 +59,6 @@ void tst_StandbyTimer::restartTakesNewTimer()
     const int first = timer.timerId();
     timer.restart();
     QVERIFY(timer.timerId() != first);
-    QCOMPARE(running(timer).size(), 2); // the earlier one is left alone
 }
 
 void tst_StandbyTimer::onlyTheNewestCounts()
@@ -81,13 +80,12 @@ void tst_StandbyTimer::onlyTheNewestCounts()
     QCOMPARE(expired.size(), 1);
 }
 
-void tst_StandbyTimer::staleTimersAreDisposedOf()
+// A finger that moves restarts the count a hundred times a second.
+void tst_StandbyTimer::onlyOneTimerRuns()
 {
     StandbyTimer timer;
-    timer.restart();
-    const int first = timer.timerId();
-    timer.restart();
-    fire(timer, first);
+    for (int i = 0; i < 1000; ++i)
+        timer.restart();
     QCOMPARE(running(timer).size(), 1);
     QCOMPARE(running(timer).constFirst().timerId, timer.timerId());
 }
@@ -134,7 +132,7 @@ void tst_StandbyTimer::stop()
     QCOMPARE(running(timer).size(), 0);
 }
 
-void tst_StandbyTimer::expiryEndsEveryTimer()
+void tst_StandbyTimer::expiryEndsTheTimer()
 {
     StandbyTimer timer;
     for (int i = 0; i < 5; ++i)
