@@ -33,9 +33,11 @@ LoadingPage::LoadingPage(QWidget *parent)
 
     m_movie = new QMovie(QStringLiteral(":/gif/loading.gif"), QByteArray(), this);
     m_picture = new QLabel(this);
+    m_picture->setObjectName(QStringLiteral("picture"));
     m_picture->setFixedSize(PictureExtent, PictureExtent);
     connect(m_movie, &QMovie::frameChanged, this, &LoadingPage::showFrame);
     m_text = new QLabel(this);
+    m_text->setObjectName(QStringLiteral("text"));
     QFont font = m_text->font();
     font.setPixelSize(TextPixels);
     m_text->setFont(font);

@@ -156,9 +156,10 @@ void SingleController::connectStream()
     connect(m_videoView, &VideoView::touchEvent, this, &SingleController::onOperation);
     connect(m_videoView, &VideoView::inputEvent, this, &SingleController::onOperation);
     connect(m_videoView, &VideoView::screenRotation, this, &SingleController::onScreenRotation);
-    const auto indexChanged = qOverload<int>(&QComboBox::currentIndexChanged);
-    connect(m_qualityBox, indexChanged, stream, &StreamController::onVideoLevelChanged);
-    connect(m_qualityBox, indexChanged, this, &SingleController::onOperation);
+    connect(m_qualityBox, qOverload<int>(&QComboBox::currentIndexChanged), stream,
+        &StreamController::onVideoLevelChanged);
+    connect(
+        m_qualityBox, qOverload<int>(&QComboBox::currentIndexChanged), this, &SingleController::onOperation);
     connect(stream, &StreamController::sigPlayInfo, this, &SingleController::onPlayInfo);
 }
 

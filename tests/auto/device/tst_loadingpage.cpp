@@ -19,13 +19,10 @@ void tst_LoadingPage::look()
 {
     LoadingPage page;
     page.resize(340, 600);
-    QLabel *text = nullptr;
-    QLabel *picture = nullptr;
-    const auto labels = page.findChildren<QLabel *>();
-    for (QLabel *label : labels)
-        (label->text().isEmpty() ? picture : text) = label;
-    QVERIFY(text && picture);
+    const auto *text = page.findChild<QLabel *>(QStringLiteral("text"));
+    const auto *picture = page.findChild<QLabel *>(QStringLiteral("picture"));
     const auto *movie = page.findChild<QMovie *>();
+    QVERIFY(text && picture && movie);
     QCOMPARE(text->text(), QStringLiteral("Initialising"));
     QCOMPARE(text->font().pixelSize(), 14);
     QCOMPARE(text->palette().color(QPalette::WindowText), QColor(0x60, 0x62, 0x66));
@@ -63,11 +60,7 @@ void tst_LoadingPage::framesHaveTheScreensPixels()
         const auto *movie = page.findChild<QMovie *>();
         QSignalSpy frames(movie, &QMovie::frameChanged);
         QVERIFY(frames.wait());
-        const QLabel *picture = nullptr;
-        for (const QLabel *label : page.findChildren<QLabel *>()) {
-            if (label->text().isEmpty())
-                picture = label;
-        }
+        const auto *picture = page.findChild<QLabel *>(QStringLiteral("picture"));
         QVERIFY(picture);
         const QPixmap frame = picture->pixmap(Qt::ReturnByValue);
         QCOMPARE(frame.devicePixelRatio(), page.devicePixelRatioF());

@@ -153,7 +153,8 @@ void tst_SingleControllerStandby::changedMinutesCountFromNow()
     window().setStandbyTime(9); // before there is anything to pause
     QCOMPARE(timer()->timerId(), -1);
     QVERIFY(m_fixture->open());
-    QCOMPARE(QAbstractEventDispatcher::instance()->registeredTimers(timer()).first().interval, 9 * 60'000);
+    QCOMPARE(
+        QAbstractEventDispatcher::instance()->registeredTimers(timer()).constFirst().interval, 9 * 60'000);
     const int first = timer()->timerId();
     window().setStandbyTime(1);
     QCOMPARE(window().standbyTime(), 1);

@@ -47,9 +47,9 @@ void tst_StandbyTimer::minutes()
     timer.restart();
     const auto timers = running(timer);
     QCOMPARE(timers.size(), 1);
-    QCOMPARE(timers.first().timerId, timer.timerId());
-    QCOMPARE(timers.first().interval, 7 * 60'000);
-    QVERIFY(timers.first().timerType != Qt::PreciseTimer);
+    QCOMPARE(timers.constFirst().timerId, timer.timerId());
+    QCOMPARE(timers.constFirst().interval, 7 * 60'000);
+    QVERIFY(timers.constFirst().timerType != Qt::PreciseTimer);
 }
 
 void tst_StandbyTimer::restartTakesNewTimer()
@@ -89,7 +89,7 @@ void tst_StandbyTimer::staleTimersAreDisposedOf()
     timer.restart();
     fire(timer, first);
     QCOMPARE(running(timer).size(), 1);
-    QCOMPARE(running(timer).first().timerId, timer.timerId());
+    QCOMPARE(running(timer).constFirst().timerId, timer.timerId());
 }
 
 void tst_StandbyTimer::noMinutes_data()
@@ -121,7 +121,7 @@ void tst_StandbyTimer::veryLong()
     timer.setMinutes(std::numeric_limits<int>::max());
     timer.restart();
     QVERIFY(timer.timerId() != -1);
-    QVERIFY(running(timer).first().interval > 24 * 60 * 60'000);
+    QVERIFY(running(timer).constFirst().interval > 24 * 60 * 60'000);
 }
 
 void tst_StandbyTimer::stop()

@@ -161,8 +161,8 @@ void tst_StandbyWidget::layout()
     const QPixmap image = label("picture")->pixmap(Qt::ReturnByValue);
     QCOMPARE(image.size(), QSize(picture, picture) * m_page->devicePixelRatioF());
     QCOMPARE(spacers().size(), 2);
-    QTEST(spacers().first()->sizeHint().height(), "upper");
-    QTEST(spacers().last()->sizeHint().height(), "lower");
+    QTEST(spacers().constFirst()->sizeHint().height(), "upper");
+    QTEST(spacers().constLast()->sizeHint().height(), "lower");
     QCOMPARE(label("titleText")->width(), video.width());
     QCOMPARE(label("leavingText")->width(), video.width());
     for (const char *name : {"picture", "titleText", "leavingText"}) {
@@ -177,7 +177,7 @@ void tst_StandbyWidget::laidOutAnew()
     layOut(ScreenOrientation::Landscape, LandscapeVideo);
     layOut(ScreenOrientation::Portrait, PortraitVideo);
     QCOMPARE(label("picture")->size(), QSize(70, 70));
-    QCOMPARE(spacers().first()->sizeHint().height(), 120);
+    QCOMPARE(spacers().constFirst()->sizeHint().height(), 120);
     QCOMPARE(label("titleText")->width(), 340);
 }
 
