@@ -23,6 +23,7 @@ namespace Look {
 constexpr int Height = 24;
 constexpr int TextPixels = 12;
 constexpr int Margin = 8;
+constexpr int Gap = 6; // between text and chevron
 constexpr int CornerRadius = 4;
 constexpr int ChevronWidth = 8;
 constexpr double ChevronPen = 1.5;
@@ -82,7 +83,7 @@ void QualityBox::paintEvent(QPaintEvent *)
         painter.drawRoundedRect(rect(), Look::CornerRadius, Look::CornerRadius);
     }
     const QRect textRect
-        = rect().adjusted(Look::Margin, 0, -2 * Look::Margin - Look::ChevronWidth + Look::Margin / 2, 0);
+        = rect().adjusted(Look::Margin, 0, -Look::Margin - Look::ChevronWidth - Look::Gap, 0);
     QFont textFont = font();
     textFont.setPixelSize(Look::TextPixels);
     painter.setFont(textFont);

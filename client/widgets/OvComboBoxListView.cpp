@@ -84,5 +84,5 @@ void OvComboBoxListView::inputMethodEvent(QInputMethodEvent *event)
 QVariant OvComboBoxListView::inputMethodQuery(Qt::InputMethodQuery query) const
 {
     const OvComboBoxEditableItem *edited = editedItem();
-    return edited ? edited->inputMethodQuery(query) : QWidget::inputMethodQuery(query);
+    return edited ? edited->inputMethodQuery(query) : QListWidget::inputMethodQuery(query);
 }

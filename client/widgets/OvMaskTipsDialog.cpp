@@ -78,6 +78,7 @@ OvMaskTipsDialog::OvMaskTipsDialog(QWidget *parent)
     setAttribute(Qt::WA_NoMousePropagation);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::ArrowCursor);
+    hide(); // a child would be shown along with its parent
     createBox();
     setTexts();
     if (parent)
@@ -197,9 +198,13 @@ bool OvMaskTipsDialog::focusNextPrevChild(bool)
 
 void OvMaskTipsDialog::keepFocus(QWidget *focused)
 {
-    const bool isCovered = isVisible() && focused && focused->window() == window() && !isAncestorOf(focused);
-    if (isCovered && focused != this)
-        m_confirmButton->setFocus();
+    if (!isVisible() || !focused || focused->window() != window())
+        return;
+    for (QWidget *holder = focused; holder; holder = holder->parentWidget()) {
+        if (qobject_cast<OvMaskTipsDialog *>(holder))
+            return; // this one or one above it
+    }
+    m_confirmButton->setFocus();
 }
 
 // The mask keeps its distance from the edges of the window.
@@ -223,6 +228,15 @@ void OvMaskTipsDialog::showEvent(QShowEvent *event)
         QDialog::showEvent(event);
     raise();
     m_confirmButton->setFocus();
+}
+
+void OvMaskTipsDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        m_focusBefore = window()->focusWidget();
+    QDialog::setVisible(visible);
+    if (!visible && m_focusBefore && m_focusBefore->isVisible())
+        m_focusBefore->setFocus();
 }
 
 void OvMaskTipsDialog::paintEvent(QPaintEvent *)

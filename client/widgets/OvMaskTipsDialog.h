@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 
 class QFrame;
 class QLabel;
@@ -16,8 +17,9 @@ class QPushButton;
 //     dialog->setText(question);
 //     if (dialog->exec() != 0) ...
 //
-// The mask lies inside its parent, so that it goes along with the window and needs no compositor; it grows
-// and shrinks with it. Made with new: it deletes itself when it is answered or closed. GUI thread.
+// Several may lie over one window; the uppermost has the focus. The mask lies inside its parent, so that it
+// goes along with the window and needs no compositor; it grows and shrinks with it. Made with new: it deletes
+// itself when it is answered or closed. GUI thread.
 class OvMaskTipsDialog : public QDialog
 {
     Q_OBJECT
@@ -32,6 +34,8 @@ public:
 
     // Ends the dialog with a result of 0, as the button "Close", the Escape key and closing it do.
     void reject() override;
+    // While the dialog is shown, it has the focus; afterwards, who had it before.
+    void setVisible(bool visible) override;
 
 signals:
     // The dialog was left unconfirmed, or confirmed; before it ends.
@@ -59,4 +63,5 @@ private:
     QLabel *m_messageLabel;
     QPushButton *m_closeButton;
     QPushButton *m_confirmButton;
+    QPointer<QWidget> m_focusBefore; // gets the focus back
 };

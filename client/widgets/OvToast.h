@@ -15,8 +15,8 @@ class QPropertyAnimation;
 //
 //     (new OvToast(window))->show(text, 3);
 //
-// It appears in the middle over its parent, 50 pixels below its upper edge, but never off the screen. GUI thread;
-// child of the window it appears over, or without one over the primary screen.
+// It appears in the middle over its parent, 50 pixels below its upper edge, but never off the screen. GUI
+// thread; child of the window it appears over, or without one over the primary screen.
 class OvToast : public QWidget
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 
 #include <QLayout>
 #include <QPushButton>
+#include <QShortcut>
 
 using namespace devicetest;
 
@@ -43,6 +44,7 @@ private slots:
     void maximizeWays_data();
     void maximizeWays();
     void shortcutReachesNoDevice();
+    void heldShortcutCountsOnce();
     void rotationWhileMaximized();
     void restoreAfterRotationSwaps();
     void restoreAfterTwoRotations();
@@ -274,6 +276,14 @@ void tst_SingleControllerShape::shortcutReachesNoDevice()
 {
     QTest::keyClick(m_fixture->video(), Qt::Key_F11);
     QCOMPARE(takeCalls(), QStringList(keyCall(2, Qt::Key_F11)));
+}
+
+void tst_SingleControllerShape::heldShortcutCountsOnce()
+{
+    const auto *shortcut = window().titleBar()->findChild<QShortcut *>();
+    QVERIFY(shortcut);
+    QCOMPARE(shortcut->key(), QKeySequence(Qt::Key_F11));
+    QVERIFY(!shortcut->autoRepeat());
 }
 
 void tst_SingleControllerShape::rotationWhileMaximized()

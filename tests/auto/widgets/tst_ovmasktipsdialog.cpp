@@ -81,6 +81,8 @@ private slots:
     void mouseDoesNotReachTheWindow();
     void keysDoNotReachTheWindow();
     void focusStays();
+    void focusComesBack();
+    void oneAboveTheOther();
     void growsWithTheWindow();
     void languageChange();
 };
@@ -127,7 +129,9 @@ void TestOvMaskTipsDialog::placeInTheWindow()
 {
     Window window;
     QVERIFY(window.appear());
+    QVERIFY(!window.dialog->isVisible()); // before it is asked for
     window.dialog->open();
+    QVERIFY(window.dialog->isVisible());
     QCOMPARE(window.dialog->mapTo(&window, QPoint(0, 0)), QPoint(10, 10));
     QCOMPARE(window.dialog->size(), QSize(400, 300));
     window.move(350, 230);
@@ -319,6 +323,38 @@ void TestOvMaskTipsDialog::focusStays()
     QCOMPARE(QApplication::focusWidget(), window.button("confirmButton"));
     window.edit->setFocus(); // a covered widget reaches for it
     QCOMPARE(QApplication::focusWidget(), window.button("confirmButton"));
+}
+
+// To whatever had it, so that typing goes on where it was.
+void TestOvMaskTipsDialog::focusComesBack()
+{
+    Window window;
+    QLineEdit second(&window);
+    second.move(200, 0);
+    QVERIFY(window.appear());
+    second.setFocus();
+    window.dialog->open();
+    QVERIFY(!second.hasFocus());
+    QTest::mouseClick(window.button("closeButton"), Qt::LeftButton);
+    QCOMPARE(QApplication::focusWidget(), &second);
+}
+
+void TestOvMaskTipsDialog::oneAboveTheOther()
+{
+    Window window;
+    QVERIFY(window.appear());
+    window.edit->setFocus();
+    window.dialog->open();
+    const QPointer<OvMaskTipsDialog> upper = new OvMaskTipsDialog(&window);
+    upper->setFixedSize(400, 300);
+    upper->move(10, 10);
+    upper->open();
+    QCOMPARE(window.childAt(200, 30), upper.data());
+    QVERIFY(upper->isAncestorOf(QApplication::focusWidget()));
+    upper->close();
+    QVERIFY(window.dialog->isAncestorOf(QApplication::focusWidget()));
+    window.dialog->close();
+    QCOMPARE(QApplication::focusWidget(), window.edit);
 }
 
 void TestOvMaskTipsDialog::growsWithTheWindow()
