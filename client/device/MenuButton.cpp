@@ -75,6 +75,7 @@ void MenuButton::enterEvent(QEvent *event)
     if (isEnabled()) {
         placeBubble();
         m_bubble->show();
+        window()->installEventFilter(this); // once, however often
     }
     QPushButton::enterEvent(event);
 }
@@ -89,6 +90,14 @@ void MenuButton::hideEvent(QHideEvent *event)
 {
     m_bubble->hide();
     QPushButton::hideEvent(event);
+}
+
+// A window that moves or changes its shape without the pointer leaves the bubble behind.
+bool MenuButton::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Move || event->type() == QEvent::Resize)
+        m_bubble->hide();
+    return QPushButton::eventFilter(watched, event);
 }
 
 void MenuButton::changeEvent(QEvent *event)

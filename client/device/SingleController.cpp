@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDebug>
+#include <QDialog>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -120,7 +121,8 @@ void SingleController::showTitle()
         false, QColor(Look::TitleColour));
 }
 
-// The pages go into a layout that is in place: one without a window shows its first page as a window of its own.
+// The pages go into a layout that is in place: one without a window shows its first page as a window of its
+// own.
 void SingleController::createPages()
 {
     m_pages = new QStackedLayout;
@@ -239,9 +241,12 @@ void SingleController::onApplyFailed(const QString &error)
     showToast(error);
 }
 
+// One at a time: the newest takes the place of the one before.
 void SingleController::showToast(const QString &text)
 {
-    (new OvToast(this))->show(text, Look::ToastSeconds);
+    if (!m_toast || !m_toast->isVisible())
+        m_toast = new OvToast(this);
+    m_toast->show(text, Look::ToastSeconds);
 }
 
 // ---- Keyboard and clipboard
@@ -444,8 +449,21 @@ void SingleController::closeEvent(QCloseEvent *event)
     if (event->spontaneous())
         emit sigCloseBtnClicked();
     endStream();
+    closeQuestions();
     showPortrait();
     TurnableWindow::closeEvent(event);
+}
+
+// Dialogs and messages are windows or wait for an answer; hiding their window alone does not end them.
+void SingleController::closeQuestions()
+{
+    const auto dialogs = findChildren<QDialog *>();
+    for (QDialog *dialog : dialogs) {
+        if (dialog->isVisible())
+            dialog->reject();
+    }
+    if (m_toast)
+        m_toast->close();
 }
 
 // Back to the loading page, so that a window which is shown again has nothing old in it.

@@ -6,6 +6,7 @@
 #include "stream/ScreenOrientation.h"
 #include "stream/StreamingData.h"
 
+#include <QPointer>
 #include <QString>
 
 #include <memory>
@@ -13,6 +14,7 @@
 class HttpHelper;
 class LoadingPage;
 class MenuBar;
+class OvToast;
 class QJsonValue;
 class QLabel;
 class QStackedLayout;
@@ -97,6 +99,7 @@ private:
     void endStandby();
     void layOutStandbyPage();
     void endStream();
+    void closeQuestions();
     void showPortrait();
     void showTitle();
 
@@ -115,5 +118,6 @@ private:
     QualityBox *m_qualityBox = nullptr;
     QLabel *m_delayLabel = nullptr;
     StandbyTimer *m_standbyTimer;
+    QPointer<OvToast> m_toast; // child, while one is shown
     HeldKeys m_heldKeys;
 };

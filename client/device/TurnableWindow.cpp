@@ -30,9 +30,10 @@ void TurnableWindow::turnTo(ScreenOrientation orientation)
         fillScreen();
         return;
     }
+    const QRect area = availableGeometry(); // before it reaches over to another screen
     const QSize turned = DeviceWindowShape::turned(contentSize());
-    applyContent(DeviceWindowShape::fitted(turned, availableGeometry().size()));
-    moveOntoScreen();
+    applyContent(DeviceWindowShape::fitted(turned, area.size()));
+    moveInto(area);
 }
 
 void TurnableWindow::applyContent(const QSize &content)
@@ -45,11 +46,11 @@ void TurnableWindow::applyContent(const QSize &content)
     setMinimumSize(DeviceWindowShape::smallestContentSize(m_orientation) + margins);
 }
 
-void TurnableWindow::moveOntoScreen()
+void TurnableWindow::moveInto(const QRect &area)
 {
     const QPoint margin(shadowMargin(), shadowMargin());
     const QRect body(pos() + margin, contentSize());
-    const QPoint target = DeviceWindowShape::positionWithin(availableGeometry(), body);
+    const QPoint target = DeviceWindowShape::positionWithin(area, body);
     if (isVisible() && target != body.topLeft())
         move(target - margin);
 }
@@ -107,5 +108,5 @@ void TurnableWindow::restore()
     setGeometry(QRect(target, normal.size() + QSize(2 * margin.x(), 2 * margin.y())));
     applyContent(normal.size());
     if (!dragged)
-        moveOntoScreen();
+        moveInto(availableGeometry());
 }

@@ -31,7 +31,7 @@ private:
     void restore();
     void fillScreen();
     void applyContent(const QSize &content);
-    void moveOntoScreen();
+    void moveInto(const QRect &area);
 
     ScreenOrientation m_orientation = ScreenOrientation::Portrait;
     ScreenOrientation m_maximizedOrientation = ScreenOrientation::Portrait; // when it was maximised

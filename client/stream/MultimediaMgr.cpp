@@ -56,6 +56,7 @@ MultimediaMgr::~MultimediaMgr()
     m_camera->stop();
     m_thread->quit();
     m_thread->wait();
+    delete m_worker; // nothing of it runs any more
 }
 
 void MultimediaMgr::startThread()
@@ -64,7 +65,6 @@ void MultimediaMgr::startThread()
     m_thread->setObjectName(QStringLiteral("camera"));
     m_worker = new MultimediaWorker;
     m_worker->moveToThread(m_thread);
-    connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
     m_thread->start(QThread::InheritPriority);
 }
 

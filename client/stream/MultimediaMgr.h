@@ -53,6 +53,6 @@ private:
     QCamera *m_camera = nullptr;
     QThread *m_thread = nullptr;
     QTimer *m_timer = nullptr; // captures
-    MultimediaWorker *m_worker = nullptr; // lives on m_thread and is destroyed there at its end
+    MultimediaWorker *m_worker = nullptr; // owned; lives on m_thread, also while that does not run
     bool m_failureTold = false; // since the last start
 };

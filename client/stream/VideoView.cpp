@@ -187,7 +187,8 @@ QImage VideoView::picture()
     return image.transformed(QTransform().rotate(-90));
 }
 
-// The picture is taken at the click: what the user saw is what is saved, however long the dialog is open.
+// The picture is taken at the click: what the user saw is what is saved, however long the dialog is open. The
+// dialogs belong to the window, so that they stay usable while the view is disabled, and end with the view.
 void VideoView::onScreenCaptureBtnClicked()
 {
     const QImage shown = picture();
@@ -195,10 +196,12 @@ void VideoView::onScreenCaptureBtnClicked()
         qWarning() << "there is no picture yet to save";
         return;
     }
-    auto *dialog = new QFileDialog(this, tr("Save File"), proposedPictureFile(), tr("Image(*.jpg *.png)"));
+    auto *dialog
+        = new QFileDialog(window(), tr("Save File"), proposedPictureFile(), tr("Image(*.jpg *.png)"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("png"));
+    connect(this, &QObject::destroyed, dialog, &QObject::deleteLater);
     connect(dialog, &QFileDialog::fileSelected, this,
         [this, shown](const QString &fileName) { savePicture(shown, fileName); });
     dialog->open();
@@ -209,9 +212,10 @@ void VideoView::savePicture(const QImage &picture, const QString &fileName)
     if (picture.save(fileName))
         return;
     qWarning().noquote() << "the picture could not be saved as" << QDir::toNativeSeparators(fileName);
-    auto *box = new QMessageBox(
-        QMessageBox::Warning, tr("Save File"), tr("The picture could not be saved."), QMessageBox::Ok, this);
+    auto *box = new QMessageBox(QMessageBox::Warning, tr("Save File"), tr("The picture could not be saved."),
+        QMessageBox::Ok, window());
     box->setAttribute(Qt::WA_DeleteOnClose);
+    connect(this, &QObject::destroyed, box, &QObject::deleteLater);
     box->open();
 }
 

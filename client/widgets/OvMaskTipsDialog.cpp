@@ -230,6 +230,21 @@ void OvMaskTipsDialog::showEvent(QShowEvent *event)
     m_confirmButton->setFocus();
 }
 
+// Nobody can answer it any more, and whoever waits for the answer would wait for ever. Not within the event:
+// a window that is being destroyed hides as well, and must not be told anything.
+void OvMaskTipsDialog::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    if (!event->spontaneous() && !isHidden())
+        QMetaObject::invokeMethod(this, &OvMaskTipsDialog::endWithItsWindow, Qt::QueuedConnection);
+}
+
+void OvMaskTipsDialog::endWithItsWindow()
+{
+    if (!isVisible() && !isHidden())
+        reject();
+}
+
 void OvMaskTipsDialog::setVisible(bool visible)
 {
     if (visible && !isVisible())

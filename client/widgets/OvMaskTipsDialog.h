@@ -18,8 +18,9 @@ class QPushButton;
 //     if (dialog->exec() != 0) ...
 //
 // Several may lie over one window; the uppermost has the focus. The mask lies inside its parent, so that it
-// goes along with the window and needs no compositor; it grows and shrinks with it. Made with new: it deletes
-// itself when it is answered or closed. GUI thread.
+// goes along with the window and needs no compositor; it grows and shrinks with it, and ends
+// unconfirmed when the window is hidden or closed. Made with new: it deletes itself when it is answered or
+// closed. GUI thread.
 class OvMaskTipsDialog : public QDialog
 {
     Q_OBJECT
@@ -50,12 +51,14 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     QPushButton *createButton(const QString &objectName, const QString &colors);
     void createBox();
     void setTexts();
     void confirm();
+    void endWithItsWindow();
     void keepFocus(QWidget *focused);
 
     QFrame *m_box; // children

@@ -70,8 +70,9 @@ public slots:
     void onBtnCloseClicked();
 
 protected:
-    // What windows may cover of the screen that holds this one.
-    QRect availableGeometry() const { return m_availableGeometry(pos()); }
+    // What windows may cover of the screen that holds the middle of this one. The window's position may lie
+    // on a screen beside, where only its transparent margin is.
+    QRect availableGeometry() const { return m_availableGeometry(geometry().center()); }
     // Forgets which edge is under the pointer: the pointer is elsewhere now.
     void leaveEdge();
 

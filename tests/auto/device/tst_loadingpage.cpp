@@ -4,6 +4,7 @@
 #include <QMovie>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
 class tst_LoadingPage : public QObject
 {
@@ -13,6 +14,7 @@ private slots:
     void look();
     void animationRunsWhileVisible();
     void framesHaveTheScreensPixels();
+    void languageChange();
 };
 
 void tst_LoadingPage::look()
@@ -67,6 +69,28 @@ void tst_LoadingPage::framesHaveTheScreensPixels()
         QCOMPARE(frame.size(), QSize(72, 72) * page.devicePixelRatioF());
         page.hide();
     }
+}
+
+// At once, while it is shown.
+void tst_LoadingPage::languageChange()
+{
+    class Other : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return QLatin1String(text) == QLatin1String("Initialising") ? QStringLiteral("Initialisierung")
+                                                                        : QString();
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    LoadingPage page;
+    page.show();
+    const auto *text = page.findChild<QLabel *>(QStringLiteral("text"));
+    QCoreApplication::installTranslator(&translator);
+    QTRY_COMPARE(text->text(), QStringLiteral("Initialisierung"));
+    QCoreApplication::removeTranslator(&translator);
+    QTRY_COMPARE(text->text(), QStringLiteral("Initialising"));
 }
 
 QTEST_MAIN(tst_LoadingPage)

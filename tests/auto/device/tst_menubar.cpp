@@ -75,11 +75,13 @@ private:
 void tst_MenuBar::init()
 {
     m_window = std::make_unique<QWidget>();
+    m_window->setWindowFlag(Qt::FramelessWindowHint); // placed once
     m_window->setGeometry(600, 200, 300, 500);
     m_bar = new MenuBar(m_window.get());
     m_bar->setGeometry(250, 0, 50, 500);
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QTRY_COMPARE(m_window->pos(), QPoint(600, 200));
 }
 
 void tst_MenuBar::shape()

@@ -5,12 +5,19 @@
 #include "device/MenuBar.h"
 #include "device/MenuButton.h"
 #include "device/QualityBox.h"
+#include "widgets/OvBubble.h"
+#include "widgets/OvMaskTipsDialog.h"
+#include "widgets/OvToast.h"
 
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QFontMetrics>
+#include <QPointer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTranslator>
 
 using namespace devicetest;
@@ -39,6 +46,10 @@ private slots:
     void keyboardStaysWithTheVideo();
     void openListReleasesHeldKeys();
     void titleHasTheRoomThatIsThere();
+    void bubbleGoesWhenTheBarMoves_data();
+    void bubbleGoesWhenTheBarMoves();
+    void closingClosesItsDialogs();
+    void oneToastAtATime();
 
 private:
     SingleController &window() const { return *m_fixture->window; }
@@ -281,6 +292,70 @@ void tst_SingleControllerBar::titleHasTheRoomThatIsThere()
     QTRY_VERIFY(isWhole());
     window().onMaximizeShortcutActivated();
     QTRY_VERIFY(isWhole());
+}
+
+void tst_SingleControllerBar::bubbleGoesWhenTheBarMoves_data()
+{
+    QTest::addColumn<QString>("what");
+    for (const char *what : {"maximised", "turned by the device", "moved"})
+        QTest::newRow(what) << QString::fromLatin1(what);
+}
+
+// By the keyboard or from the device's side, the pointer being where it was.
+void tst_SingleControllerBar::bubbleGoesWhenTheBarMoves()
+{
+    QFETCH(QString, what);
+    QVERIFY(m_fixture->open());
+    auto *button = m_fixture->child<MenuBar>()->buttons().constFirst();
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(button, &enter);
+    QVERIFY(button->bubble()->isVisible());
+    if (what == QLatin1String("maximised"))
+        window().onMaximizeShortcutActivated();
+    else if (what == QLatin1String("moved"))
+        window().move(window().pos() + QPoint(30, 0));
+    else
+        m_fixture->video()->onScreenRotation(1);
+    QTRY_VERIFY(!button->bubble()->isVisible());
+}
+
+// A question of a window that is gone could not be answered sensibly.
+void tst_SingleControllerBar::closingClosesItsDialogs()
+{
+    QVERIFY(m_fixture->open());
+    showDevicePicture(*m_fixture->video());
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    click(3);
+    const QPointer<QFileDialog> file = m_fixture->child<QFileDialog>();
+    QVERIFY(file);
+    window().close();
+    QVERIFY(!file || !file->isVisible());
+    QTRY_VERIFY(!file);
+
+    QVERIFY(m_fixture->open());
+    const QPointer<OvMaskTipsDialog> question = new OvMaskTipsDialog(&window());
+    bool closed = false;
+    QTimer::singleShot(0, question, [&] { closed = window().close(); });
+    QCOMPARE(question->exec(), 0); // and does not wait for ever
+    QVERIFY(closed);
+    QVERIFY(!question);
+}
+
+// The newest: two would lie over one another.
+void tst_SingleControllerBar::oneToastAtATime()
+{
+    QVERIFY(m_fixture->open());
+    QGuiApplication::clipboard()->setText(QString(1024 * 1024 + 1, QLatin1Char('x')));
+    for (int i = 0; i < 2; ++i) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("too long to paste"));
+        window().onPasteText();
+    }
+    QCOMPARE(window().findChildren<OvToast *>().size(), 1);
+    window().findChild<OvToast *>()->close();
+    QTRY_VERIFY(!window().findChild<OvToast *>());
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("too long to paste"));
+    window().onPasteText();
+    QVERIFY(window().findChild<OvToast *>()->isVisible());
 }
 
 QTEST_MAIN(tst_SingleControllerBar)

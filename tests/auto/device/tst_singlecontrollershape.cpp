@@ -18,6 +18,15 @@ const QSize Landscape(650, 380);
 const QSize Margins(20, 20);
 const QRect Area(100, 50, 1600, 1000); // what the window may cover
 
+// Two screens side by side.
+const QRect LeftScreen(0, 0, 960, 1060);
+const QRect RightScreen(960, 0, 960, 1000);
+
+QRect twoScreens(const QPoint &pos)
+{
+    return pos.x() < 960 ? LeftScreen : RightScreen;
+}
+
 } // namespace
 
 class tst_SingleControllerShape : public QObject
@@ -36,6 +45,9 @@ private slots:
     void fingerIsLifted_data();
     void fingerIsLifted();
     void turnedWindowStaysOnTheScreen();
+    void staysOnItsScreen_data();
+    void staysOnItsScreen();
+    void turnedAtTheOtherScreensEdge();
     void tooLargeWindowBecomesSmaller();
     void smallestSize();
     void maximizePortrait();
@@ -179,6 +191,45 @@ void tst_SingleControllerShape::turnedWindowStaysOnTheScreen()
     window().onScreenRotateBtnClicked();
     QTRY_COMPARE(body().topLeft(), QPoint(1010, 1050 - 640));
     QVERIFY(Area.contains(body()));
+}
+
+void tst_SingleControllerShape::staysOnItsScreen_data()
+{
+    QTest::addColumn<QPoint>("pos");
+    QTest::addColumn<QRect>("screen");
+    QTest::newRow("margin over the left edge") << QPoint(950, 100) << RightScreen;
+    QTest::newRow("margin over the upper edge") << QPoint(1100, -10) << RightScreen;
+    QTest::newRow("mostly on it") << QPoint(900, 100) << RightScreen;
+    QTest::newRow("on the first") << QPoint(300, 100) << LeftScreen;
+}
+
+// The one that shows most of it, not the one that its transparent margin reaches.
+void tst_SingleControllerShape::staysOnItsScreen()
+{
+    QFETCH(QPoint, pos);
+    QFETCH(QRect, screen);
+    window().setAvailableGeometry(twoScreens);
+    window().move(pos);
+    QTRY_COMPARE(window().pos(), pos);
+    window().onMaximizeShortcutActivated();
+    QTRY_COMPARE(window().height(), screen.height());
+    QVERIFY(screen.contains(window().geometry()));
+    window().onMaximizeShortcutActivated();
+    QTRY_COMPARE(window().size(), Portrait + Margins);
+    for (int i = 0; i < 3; ++i) {
+        window().onScreenRotateBtnClicked();
+        QTRY_VERIFY(screen.contains(body()));
+    }
+}
+
+// It grows towards the other screen, and comes back.
+void tst_SingleControllerShape::turnedAtTheOtherScreensEdge()
+{
+    window().setAvailableGeometry(twoScreens);
+    window().move(550, 100);
+    QTRY_COMPARE(window().pos(), QPoint(550, 100));
+    window().onScreenRotateBtnClicked();
+    QTRY_COMPARE(body().topLeft(), QPoint(960 - 650, 110));
 }
 
 void tst_SingleControllerShape::tooLargeWindowBecomesSmaller()

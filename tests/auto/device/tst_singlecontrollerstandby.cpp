@@ -11,9 +11,15 @@
 
 #include <QAbstractEventDispatcher>
 #include <QClipboard>
+#include <QFileDialog>
 #include <QInputMethodEvent>
+#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTranslator>
 
 using namespace devicetest;
 
@@ -53,6 +59,11 @@ private slots:
     void closedWindowIsQuiet();
     void reopenedWindowIsNotStandingBy();
     void expiryWhileLoading();
+    void openDialogStaysUsable();
+    void failedSaveStaysAnswerable();
+    void openListChoosesForAfterwards();
+    void minimizedWindow();
+    void languageWhileStandingBy();
 
 private:
     SingleController &window() const { return *m_fixture->window; }
@@ -70,6 +81,7 @@ private:
 
 void tst_SingleControllerStandby::initTestCase()
 {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     m_fixture = std::make_unique<Fixture>();
     QVERIFY(m_fixture->server.isListening());
 }
@@ -391,6 +403,102 @@ void tst_SingleControllerStandby::expiryWhileLoading()
     emit timer()->sigExpired();
     QVERIFY(page()->isHidden());
     QVERIFY(m_fixture->child<LoadingPage>()->isVisible());
+}
+
+// Nothing else in the window can be used until it is answered.
+void tst_SingleControllerStandby::openDialogStaysUsable()
+{
+    QVERIFY(m_fixture->open());
+    showDevicePicture(*m_fixture->video());
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("picture.png"));
+    QTest::mouseClick(m_fixture->child<MenuBar>()->buttons().at(3), Qt::LeftButton);
+    auto *dialog = m_fixture->child<QFileDialog>();
+    QVERIFY(dialog);
+    QTRY_VERIFY(dialog->isVisible());
+    standBy();
+    QVERIFY(dialog->isEnabled());
+    dialog->selectFile(path);
+    QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+    QVERIFY(QFile::exists(path));
+    QTRY_VERIFY(page()->findChild<QPushButton *>(QStringLiteral("resumeButton"))->hasFocus());
+    window().onResumeBtnClicked();
+    QCOMPARE(takeCalls(), ResumeCalls);
+}
+
+void tst_SingleControllerStandby::failedSaveStaysAnswerable()
+{
+    QVERIFY(m_fixture->open());
+    showDevicePicture(*m_fixture->video());
+    QTest::mouseClick(m_fixture->child<MenuBar>()->buttons().at(3), Qt::LeftButton);
+    const QTemporaryDir folder;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^the picture could not be saved as .*"));
+    emit m_fixture->child<QFileDialog>()->fileSelected(folder.filePath(QStringLiteral("none/picture.png")));
+    QPointer<QMessageBox> box = m_fixture->child<QMessageBox>();
+    QVERIFY(box);
+    standBy();
+    QVERIFY(box->isEnabled());
+    QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    QTRY_VERIFY(!box);
+}
+
+// A list that was open already: the paused stream takes the level, and keeps it.
+void tst_SingleControllerStandby::openListChoosesForAfterwards()
+{
+    QVERIFY(m_fixture->open());
+    m_fixture->child<QualityBox>()->showPopup();
+    standBy();
+    m_fixture->child<QualityBox>()->setCurrentIndex(5);
+    m_fixture->child<QualityBox>()->hidePopup();
+    QVERIFY(page()->isVisible());
+    QCOMPARE(timer()->timerId(), -1);
+    takeCalls();
+    window().onResumeBtnClicked();
+    QCOMPARE(takeCalls(),
+        ResumeCalls + QStringList(QStringLiteral("SWDataSource::setVideoLevel(2, 0, 240, 424, 0, 512, 15)")));
+}
+
+void tst_SingleControllerStandby::minimizedWindow()
+{
+    QVERIFY(m_fixture->open());
+    window().showMinimized();
+    QTRY_VERIFY(window().isMinimized());
+    takeCalls();
+    fire(timer()->timerId());
+    QCOMPARE(takeCalls(), PauseCalls);
+    m_fixture->video()->onScreenRotation(1);
+    QTRY_COMPARE(page()->orientation(), ScreenOrientation::Landscape);
+    window().showNormal();
+    QTRY_VERIFY(!window().isMinimized());
+    QTRY_VERIFY(page()->isVisible());
+    QTRY_COMPARE(page()->geometry(), m_fixture->video()->geometry());
+    QTRY_COMPARE(window().size(), QSize(670, 400));
+    window().onResumeBtnClicked();
+    QCOMPARE(takeCalls(), ResumeCalls);
+}
+
+void tst_SingleControllerStandby::languageWhileStandingBy()
+{
+    class LongTexts : public QTranslator
+    {
+    public:
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return QString::fromLatin1(text) + QStringLiteral(" and some more words");
+        }
+        bool isEmpty() const override { return false; }
+    } translator;
+    QVERIFY(m_fixture->open());
+    standBy();
+    QCoreApplication::installTranslator(&translator);
+    const auto *text = page()->findChild<QLabel *>(QStringLiteral("leavingText"));
+    QTRY_VERIFY(text->text().endsWith(QStringLiteral("some more words")));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QCOMPARE(text->width(), page()->width());
+    QVERIFY(text->height() >= text->heightForWidth(text->width()));
+    QVERIFY(page()->rect().contains(text->geometry()));
+    QCoreApplication::removeTranslator(&translator);
+    QCoreApplication::processEvents();
 }
 
 QTEST_MAIN(tst_SingleControllerStandby)

@@ -268,11 +268,19 @@ void tst_StandbyWidget::colours()
     QVERIFY(isNear(resume.pixelColor(129, 27), QColor(255, 154, 122)));
     QCOMPARE(resume.pixelColor(67, 0), QColor(Qt::white)); // border
     QVERIFY(resume.pixelColor(67, 1) != QColor(Qt::white)); // of one pixel
-    QVERIFY(resume.pixelColor(0, 0) != QColor(Qt::white)); // round
+    QVERIFY(isNear(resume.pixelColor(129, 4), QColor(251, 115, 98))); // from corner to corner
+    for (const QPoint &outside : {QPoint(0, 0), QPoint(0, 1)}) // round, with a radius of 4
+        QVERIFY(resume.pixelColor(outside) != QColor(Qt::white));
+    QCOMPARE(resume.pixelColor(0, 5), QColor(Qt::white));
     const QImage exit = button("exitButton")->grab().toImage();
     QCOMPARE(exit.pixelColor(67, 16), QColor(Qt::black));
     QCOMPARE(exit.pixelColor(67, 0), QColor(Qt::white));
     QCOMPARE(exit.pixelColor(0, 16), QColor(Qt::white));
+
+    for (const char *name : {"resumeButton", "exitButton"})
+        QCOMPARE(button(name)->palette().color(QPalette::ButtonText), QColor(Qt::white));
+    for (const char *name : {"titleText", "leavingText"})
+        QCOMPARE(label(name)->palette().color(QPalette::WindowText), QColor(Qt::white));
 
     // What lies below is seen, and darker.
     QPalette white;

@@ -52,6 +52,15 @@ QTimer &timer()
     return *manager().findChild<QTimer *>();
 }
 
+// One of the test camera's pictures as it is saved without saying anything about its quality.
+QByteArray jpegOf(int number)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    numberedpicture::make(number, NativeSize).save(&buffer, "JPG");
+    return buffer.data();
+}
+
 std::unique_ptr<StreamController> session()
 {
     auto controller = std::make_unique<StreamController>();
@@ -163,6 +172,7 @@ private slots:
     void firstPictureAtOnceWhenAlreadyActive();
     void nothingIsAskedForWhileTheCameraStarts();
     void stopEndsCameraAndTimerButNotTheThread();
+    void startStartsTheThreadAgain();
     void everythingIsEncodedOnTheThread();
     void workerEncodesWhereItLives();
     void workerDropsWhatIsNoPicture();
@@ -233,6 +243,7 @@ void tst_MultimediaMgr::picturesAreJpegsOfTheNativeSize()
     QTRY_VERIFY(pictures.count() >= 3);
     for (int i = 0; i < 3; ++i) {
         QByteArray bytes = pictures.at(i).at(0).toByteArray();
+        QCOMPARE(bytes, jpegOf(before + 1 + i)); // of the format's own quality
         QBuffer buffer(&bytes);
         QImageReader reader(&buffer);
         QCOMPARE(reader.format(), QByteArray("jpeg"));
@@ -287,6 +298,17 @@ void tst_MultimediaMgr::stopEndsCameraAndTimerButNotTheThread()
     const int before = requests();
     manager().onProcessVideoFrame();
     QCOMPARE(requests(), before);
+}
+
+void tst_MultimediaMgr::startStartsTheThreadAgain()
+{
+    auto *thread = manager().findChild<QThread *>();
+    thread->quit();
+    thread->wait();
+    QSignalSpy pictures(&manager(), &MultimediaMgr::sigSendPicture);
+    manager().start();
+    QVERIFY(thread->isRunning());
+    QTRY_VERIFY(pictures.count() >= 1);
 }
 
 // While the thread is held up, pictures are captured and none is sent; afterwards all of them are.

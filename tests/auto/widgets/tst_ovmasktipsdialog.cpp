@@ -14,6 +14,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <memory>
+
 using namespace widgettest;
 
 namespace {
@@ -78,6 +80,9 @@ private slots:
     void signalsComeBeforeTheEnd();
     void deletesItself();
     void closedWithItsWindow();
+    void endsWhenItsWindowIsHidden();
+    void staysWhileItsWindowIsMinimized();
+    void tellsNothingToAWindowThatIsDestroyed();
     void mouseDoesNotReachTheWindow();
     void keysDoNotReachTheWindow();
     void focusStays();
@@ -151,11 +156,14 @@ void TestOvMaskTipsDialog::painting()
         QCOMPARE(image.pixelColor(pos), QColor(0, 0, 0, 127));
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0); // round
     QCOMPARE(image.pixelColor(399, 299).alpha(), 0);
-    QVERIFY(image.pixelColor(2, 2).alpha() < 127 || image.pixelColor(1, 1).alpha() < 127);
+    QCOMPARE(image.pixelColor(1, 1).alpha(), 0); // with a radius of 8
+    QVERIFY(image.pixelColor(2, 2).alpha() > 60);
     const QRect box = window.box()->geometry();
     QCOMPARE(image.pixelColor(box.left() + box.width() / 2, box.top() + 4), QColor(Qt::white));
     QCOMPARE(image.pixelColor(box.left() + 4, box.center().y()), QColor(Qt::white));
-    QCOMPARE(image.pixelColor(box.topLeft()), QColor(0, 0, 0, 127)); // round
+    QCOMPARE(image.pixelColor(box.topLeft()), QColor(0, 0, 0, 127)); // round, with a radius of 8
+    QCOMPARE(image.pixelColor(box.topLeft() + QPoint(1, 1)), QColor(0, 0, 0, 127));
+    QCOMPARE(image.pixelColor(box.topLeft() + QPoint(3, 3)), QColor(Qt::white));
     QVERIFY(qAbs(box.center().x() - 200) <= 1);
     QVERIFY(qAbs(box.center().y() - 150) <= 1);
 
@@ -279,6 +287,42 @@ void TestOvMaskTipsDialog::closedWithItsWindow()
     QTimer::singleShot(0, this, [window] { delete window; });
     QCOMPARE(dialog->exec(), 0);
     QVERIFY(!dialog);
+}
+
+// Whoever waits for the answer gets one.
+void TestOvMaskTipsDialog::endsWhenItsWindowIsHidden()
+{
+    Window window;
+    QVERIFY(window.appear());
+    QSignalSpy cancelled(window.dialog, &OvMaskTipsDialog::sigCancelBtnClicked);
+    QTimer::singleShot(0, &window, &QWidget::close);
+    QTimer::singleShot(3000, window.dialog, [&window] { window.dialog->done(7); }); // it would wait for ever
+    QCOMPARE(window.dialog->exec(), 0);
+    QCOMPARE(cancelled.count(), 1);
+    QVERIFY(!window.dialog);
+}
+
+void TestOvMaskTipsDialog::staysWhileItsWindowIsMinimized()
+{
+    Window window;
+    QVERIFY(window.appear());
+    window.dialog->open();
+    window.showMinimized();
+    QTRY_VERIFY(window.isMinimized());
+    window.showNormal();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(window.dialog && window.dialog->isVisible());
+}
+
+void TestOvMaskTipsDialog::tellsNothingToAWindowThatIsDestroyed()
+{
+    auto window = std::make_unique<Window>();
+    QVERIFY(window->appear());
+    window->dialog->open();
+    QSignalSpy cancelled(window->dialog, &OvMaskTipsDialog::sigCancelBtnClicked);
+    window.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(cancelled.count(), 0);
 }
 
 void TestOvMaskTipsDialog::mouseDoesNotReachTheWindow()
