@@ -24,6 +24,7 @@ const QString mainWindowTitle = QStringLiteral("Orvane");
 constexpr QSize deviceScreen(720, 1280);
 constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
+constexpr int menuBarWidth = 50;
 constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
 constexpr int TabsToOpen = 2; // from the search field over its clear button
 constexpr int TabsToOpenInPage = TabsToOpen + 1; // the button beside "Open"
@@ -329,7 +330,7 @@ void DemoRun::closeWebDevice()
 QRect DemoRun::videoArea() const
 {
     return Desktop::window(m_deviceName)
-        .adjusted(shadowMargin, shadowMargin + titleBarHeight, -shadowMargin, -shadowMargin);
+        .adjusted(shadowMargin, shadowMargin + titleBarHeight, -shadowMargin - menuBarWidth, -shadowMargin);
 }
 
 QPoint DemoRun::onScreen(const QPoint &devicePoint) const
