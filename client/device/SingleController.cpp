@@ -120,7 +120,8 @@ void SingleController::showTitle()
         false, QColor(Look::TitleColour));
 }
 
-// The pages go into a layout that is in place: one without a window shows its first page as a window of its own.
+// The pages go into a layout that is in place: one without a window shows its first page as a window of its
+// own.
 void SingleController::createPages()
 {
     m_pages = new QStackedLayout;
