@@ -57,6 +57,8 @@ private:
     void setTexts();
     void confirm();
     void keepFocus(QWidget *focused);
+    void setMaskSize(const QSize &size);
+    void takeRoundingOff();
 
     QFrame *m_box; // children
     QLabel *m_titleLabel;
