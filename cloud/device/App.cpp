@@ -28,6 +28,8 @@ void App::keyPressed(const KeyPress &)
 { }
 void App::textTyped(const QString &)
 { }
+void App::systemChanged()
+{ }
 void App::resume(TimePoint)
 { }
 void App::pause()

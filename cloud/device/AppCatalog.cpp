@@ -1,17 +1,19 @@
 #include "device/AppCatalog.h"
 
+#include "device/ArenaApp.h"
 #include "device/LatencyApp.h"
 #include "device/ListApp.h"
 #include "device/NotesApp.h"
 #include "device/PaintApp.h"
+#include "device/SettingsApp.h"
 #include "device/VideoApp.h"
 
 namespace orvane::cloud {
 
 const std::vector<AppKind> &installedApps()
 {
-    static const std::vector<AppKind> apps{
-        AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video, AppKind::Latency};
+    static const std::vector<AppKind> apps{AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video,
+        AppKind::Latency, AppKind::Arena, AppKind::Settings};
     return apps;
 }
 
@@ -30,6 +32,10 @@ QString appName(AppKind kind)
         return QStringLiteral("Video");
     case AppKind::Latency:
         return QStringLiteral("Latency");
+    case AppKind::Arena:
+        return QStringLiteral("Arena");
+    case AppKind::Settings:
+        return QStringLiteral("Settings");
     }
     return {};
 }
@@ -60,6 +66,10 @@ std::unique_ptr<App> makeApp(AppKind kind, App::Host host)
         return std::make_unique<VideoApp>(std::move(host));
     case AppKind::Latency:
         return std::make_unique<LatencyApp>(std::move(host));
+    case AppKind::Arena:
+        return std::make_unique<ArenaApp>(std::move(host));
+    case AppKind::Settings:
+        return std::make_unique<SettingsApp>(std::move(host));
     case AppKind::Home:
         break;
     }

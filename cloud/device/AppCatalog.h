@@ -17,6 +17,8 @@ enum class AppKind {
     List,
     Video,
     Latency,
+    Arena,
+    Settings,
 };
 
 // The apps that the home screen offers, in its order.

@@ -29,27 +29,31 @@ protected:
 TEST_F(AppsTest, launcherOpensAppsByTouch)
 {
     EXPECT_EQ(app(), "Home");
-    EXPECT_EQ(state()["apps"].toArray(), (QJsonArray{"Paint", "Notes", "List", "Video", "Latency"}));
-    tap(168, 850);
-    EXPECT_EQ(app(), "Paint");
-    click(KEY_HOMEPAGE);
-    tap(453, 1040);
-    EXPECT_EQ(app(), "Latency");
-    click(KEY_BACK);
-    EXPECT_EQ(app(), "Home");
-    touch(Down, {{168, 850}});
-    touch(Move, {{168, 300}}); // slides off
+    EXPECT_EQ(state()["apps"].toArray(),
+        (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Arena", "Settings"}));
+    for (const int rotation : {0, 1}) {
+        device.setRotation(rotation);
+        for (const QJsonValue name : state()["apps"].toArray()) {
+            tapIcon(name.toString().toLatin1().constData());
+            EXPECT_EQ(app(), name.toString());
+            click(KEY_HOMEPAGE);
+        }
+    }
+    device.setRotation(0);
+    const QJsonArray paint = state()["icons"].toObject()["Paint"].toArray();
+    touch(Down, {{paint[0].toInt(), paint[1].toInt()}});
+    touch(Move, {{paint[0].toInt(), 300}}); // slides off
     touch(Up, {});
     EXPECT_EQ(app(), "Home");
 }
 
 TEST_F(AppsTest, openAppByName)
 {
-    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Home"}) {
+    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Arena", "Settings", "Home"}) {
         EXPECT_TRUE(device.openApp(name));
         EXPECT_EQ(app(), name);
     }
-    for (const char *name : {"", "paint", "Camera", "Arena", "Settings", "Nothing"}) {
+    for (const char *name : {"", "paint", "Camera", "arena", "Nothing"}) {
         EXPECT_FALSE(device.openApp(name)) << name;
     }
 }
