@@ -367,8 +367,9 @@ void Shell::showRecents()
     cancelTouches();
     leaveFront();
     std::vector<RecentApps::Card> cards;
+    const QSize picture = RecentApps::pictureSize(m_surface.contentSize(), m_order.size());
     for (const AppKind kind : m_order) {
-        cards.push_back({kind, pictureOf(*find(kind))});
+        cards.push_back({kind, pictureOf(*find(kind), picture)});
     }
     m_recents.show(std::move(cards), m_surface.contentSize());
     m_surface.invalidateAll();
@@ -400,10 +401,9 @@ void Shell::choose(RecentApps::Choice choice)
     }
 }
 
-QImage Shell::pictureOf(App &app) const
+QImage Shell::pictureOf(App &app, QSize size) const
 {
     const QSize screen = m_surface.contentSize();
-    const QSize size = RecentApps::pictureSize(screen);
     QImage picture(size, QImage::Format_RGB32);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -88,7 +88,7 @@ private:
     bool systemKey(int code);
     void readClock(TimePoint now);
     QRect statusBarArea() const;
-    QImage pictureOf(App &app) const;
+    QImage pictureOf(App &app, QSize size) const;
 
     Surface &m_surface;
     const Setup m_setup;

@@ -1,6 +1,7 @@
 #include "DeviceFixture.h"
 
 #include "device/Fling.h"
+#include "device/RecentApps.h"
 
 #include <QJsonArray>
 
@@ -77,6 +78,39 @@ TEST_F(AppsTest, navigationBarAndKeys)
     click(KEY_MENU);
     tap(265, 500); // two cards side by side: the first is the one last used
     EXPECT_EQ(app(), "List");
+}
+
+// Each of up to eight cards can be touched, none reaches under the bars.
+TEST(RecentAppsTest, everyCardIsOnTheScreen)
+{
+    for (const QSize screen : {QSize(720, 1280), QSize(1280, 720)}) {
+        for (std::size_t count = 1; count <= 8; ++count) {
+            RecentApps recents;
+            std::vector<RecentApps::Card> cards;
+            for (std::size_t i = 0; i < count; ++i) {
+                // The number of the card instead of an app.
+                cards.push_back({static_cast<AppKind>(i), {}});
+            }
+            const QSize picture = RecentApps::pictureSize(screen, count);
+            recents.show(std::move(cards), screen);
+            std::vector<int> hits(count);
+            int outside = 0;
+            for (int y = 1; y < screen.height(); y += 2) {
+                for (int x = 1; x < screen.width(); x += 2) {
+                    const Pointer pointer{1, {x, y}, 1, {}};
+                    recents.touchDown(pointer);
+                    if (recents.touchUp(pointer) == RecentApps::Choice::Open) {
+                        ++hits[static_cast<std::size_t>(recents.chosen())];
+                        outside += y < 48 || y > screen.height() - 84 ? 1 : 0;
+                    }
+                }
+            }
+            EXPECT_EQ(outside, 0) << count;
+            for (const int hit : hits) {
+                EXPECT_GT(hit, picture.width() * picture.height() / 4) << count << " " << screen.width();
+            }
+        }
+    }
 }
 
 TEST_F(AppsTest, closeAllForgetsTheApps)
