@@ -3,7 +3,7 @@ include_guard(GLOBAL)
 
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTORCC ON)
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Network Svg Test)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Multimedia Widgets Network Svg Test)
 if(ORVANE_WITH_WEBENGINE)
     find_package(Qt5 5.15 REQUIRED COMPONENTS WebEngineWidgets WebChannel)
 endif()

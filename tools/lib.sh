@@ -7,7 +7,8 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 # What building and running the product needs, as Debian packages.
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qtbase5-dev qtwebengine5-dev libqt5webchannel5-dev libqt5svg5-dev qttools5-dev-tools
+    qtbase5-dev qtwebengine5-dev libqt5webchannel5-dev libqt5svg5-dev libqt5x11extras5-dev qttools5-dev-tools
+    qtmultimedia5-dev libqt5multimedia5-plugins gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
     libprotobuf-dev protobuf-compiler libboost-dev libssl-dev
     libavcodec-dev libavutil-dev libyuv-dev libx264-dev libsqlite3-dev
     fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int TextPixels = 14;
+constexpr int PictureExtent = 72; // device-independent pixels
 constexpr int Spacing = 12; // between picture and text, pixels
 constexpr QRgb Background = qRgb(0xF5, 0xF7, 0xFA);
 constexpr QRgb TextColour = qRgb(0x60, 0x62, 0x66);
@@ -32,8 +33,11 @@ LoadingPage::LoadingPage(QWidget *parent)
 
     m_movie = new QMovie(QStringLiteral(":/gif/loading.gif"), QByteArray(), this);
     m_picture = new QLabel(this);
-    m_picture->setMovie(m_movie);
+    m_picture->setObjectName(QStringLiteral("picture"));
+    m_picture->setFixedSize(PictureExtent, PictureExtent);
+    connect(m_movie, &QMovie::frameChanged, this, &LoadingPage::showFrame);
     m_text = new QLabel(this);
+    m_text->setObjectName(QStringLiteral("text"));
     QFont font = m_text->font();
     font.setPixelSize(TextPixels);
     m_text->setFont(font);
@@ -50,6 +54,16 @@ LoadingPage::LoadingPage(QWidget *parent)
 void LoadingPage::setTexts()
 {
     m_text->setText(tr("Initialising"));
+}
+
+// In the screen's own pixels.
+void LoadingPage::showFrame()
+{
+    const double ratio = devicePixelRatioF();
+    QPixmap frame = m_movie->currentPixmap().scaled(
+        m_picture->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    frame.setDevicePixelRatio(ratio);
+    m_picture->setPixmap(frame);
 }
 
 void LoadingPage::changeEvent(QEvent *event)

@@ -21,6 +21,7 @@ protected:
 
 private:
     void setTexts();
+    void showFrame();
 
     QMovie *m_movie; // children
     QLabel *m_picture;

@@ -4,8 +4,8 @@
 #include <QObject>
 
 // Gives the device what it asks for when one of its apps opens the camera: pictures and sound of this
-// computer. One forwarder may serve several sessions; a stop from any of them stops it for all. Lives on the
-// GUI thread.
+// computer. One forwarder may serve several sessions; a stop from any of them stops it for all. MultimediaMgr
+// is the one of the product. Lives on the GUI thread.
 class MultimediaForwarder : public QObject
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "stream/StreamController.h"
 
 #include "stream/DataSourceListener.h"
+#include "stream/MultimediaMgr.h"
 #include "stream/VideoLevelTable.h"
 #include "stream/VideoView.h"
 
@@ -138,11 +139,19 @@ void StreamController::releaseDisplay()
 
 void StreamController::stopStream()
 {
-    if (m_forwarder)
-        m_forwarder->stop();
+    stopForwarding();
     releasePlayer();
     if (const std::shared_ptr<SWDataSource> dataSource = replaceDataSource(nullptr))
         dataSource->stop();
+}
+
+// Whether or not this session has asked for the camera: the end of any session ends it for all.
+void StreamController::stopForwarding()
+{
+    if (m_forwarder)
+        m_forwarder->stop();
+    else
+        MultimediaMgr::stopInstance();
 }
 
 void StreamController::releasePlayer()
@@ -247,10 +256,8 @@ void StreamController::onSensorInput(int inputType, int state, int width, int he
         return;
     if (!dataSource())
         return; // asked for by a session that has ended meanwhile
-    if (!m_forwarder) {
-        qInfo() << "the device asks for the camera, but no camera is forwarded";
-        return;
-    }
+    if (!m_forwarder)
+        m_forwarder = &MultimediaMgr::instance();
     connect(m_forwarder, &MultimediaForwarder::sigSendPicture, this, &StreamController::onSendPicture,
         Qt::UniqueConnection);
     connect(m_forwarder, &MultimediaForwarder::sigSendAudioData, this, &StreamController::onSendAudioData,

@@ -49,7 +49,8 @@ public:
     void setVideoView(const QPointer<VideoView> &view);
     VideoView *videoView() const;
 
-    // What is started and stopped when the device asks for the camera. Not owned. None by default.
+    // What is started and stopped when the device asks for the camera. Not owned. By default the computer's
+    // camera, MultimediaMgr.
     void setMultimediaForwarder(MultimediaForwarder *forwarder);
 
     // Ends the present session, if any, and starts a new one in `mode`, a StreamMode.
@@ -78,7 +79,7 @@ public slots:
     // A key going down and up at once, as a Linux input key code.
     void onFunctionBtnClicked(int keyType);
     void onInputEvent(QString inputString);
-    // `inputType` 199 and 212: the device wants the camera, or no longer (`state` 0).
+    // `inputType` 199 and 212: the device wants the camera, or no longer (`state` 0). GUI thread.
     void onSensorInput(int inputType, int state, int width, int height);
     void onSendPicture(QByteArray ba);
     void onSendAudioData(QByteArray ba);
@@ -101,6 +102,7 @@ private:
     void enterStartMode(SWDataSource &dataSource, int mode);
     void connectDisplay();
     void releaseDisplay();
+    void stopForwarding();
     void releasePlayer();
     void startKeepAliveTimer();
 
@@ -111,5 +113,5 @@ private:
     std::shared_ptr<SWDataSource> m_dataSource;
     QPointer<VideoView> m_videoView;
     QPointer<VideoView> m_displayedView; // the one that the player draws into
-    QPointer<MultimediaForwarder> m_forwarder;
+    QPointer<MultimediaForwarder> m_forwarder; // none until it is set or the camera is asked for
 };

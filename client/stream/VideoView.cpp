@@ -61,6 +61,7 @@ VideoView::~VideoView()
 
 void VideoView::setOrientation(ScreenOrientation orientation)
 {
+    liftFinger();
     m_orientation = orientation;
     resize(height(), width());
     update();
@@ -131,6 +132,7 @@ void VideoView::followRotations()
     for (const int rotation : rotations) {
         if (m_viewMode != stream::InteractiveView)
             return;
+        liftFinger(); // it stays where it was on the screen, which is elsewhere on the device
         m_orientation = rotation % 2 != 0 ? ScreenOrientation::Landscape : ScreenOrientation::Portrait;
         update();
         emit screenRotation(m_orientation);

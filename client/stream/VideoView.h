@@ -61,6 +61,9 @@ public:
     void setStreamController(const std::weak_ptr<StreamController> &controller);
     // The key mapping's fingers, or none. Not owned; may be destroyed at any time.
     void setTouchPointSource(TouchPointSource *source);
+    // Ends the touch of a mouse button that is held: what it points at is about to change. The button's
+    // release is ignored then.
+    void liftFinger();
     // For tests: replaces the clock that spaces the moves.
     void setClock(MonotonicClock clock);
 
@@ -128,7 +131,6 @@ private:
     void sendTouch(int action);
     bool sendGesture(int action);
     void sendMouse(int action);
-    void liftFinger();
     void stepGesture();
     void savePicture(const QImage &picture, const QString &fileName);
 

@@ -1,6 +1,7 @@
 #include "web/OvMainWindowJsApi.h"
 
 #include "device/SingleController.h"
+#include "device/StandbyTimer.h"
 #include "group/GroupWindow.h"
 #include "net/HttpHelper.h"
 #include "web/WebSingleController.h"
@@ -24,7 +25,6 @@ const QLatin1String groupOpened("window.clusterOpened(1)");
 const QLatin1String groupClosed("window.clusterOpened(0)");
 const QLatin1String loadLists("window.getList");
 const QLatin1String devicePage("qrc:/html/orvane/index.html#/deviceWin/");
-constexpr int defaultStandbyMinutes = 5;
 } // namespace Contract
 
 // A member that is an object, read as the call itself is.
@@ -176,7 +176,7 @@ void OvMainWindowJsApi::applyStoredStandbyTime(SingleController *window)
             bool isNumber = false;
             const int minutes = value.toInt(&isNumber);
             if (guarded)
-                guarded->setStandbyTime(isNumber ? minutes : Contract::defaultStandbyMinutes);
+                guarded->setStandbyTime(isNumber ? minutes : StandbyTimer::defaultMinutes);
         });
 }
 

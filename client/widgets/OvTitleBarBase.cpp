@@ -68,8 +68,9 @@ OvTitleBarBase::OvTitleBarBase(QWidget *parent)
     connect(m_maxButton, &QPushButton::clicked, this, &OvTitleBarBase::onBtnMaxClicked);
     connect(m_restoreButton, &QPushButton::clicked, this, &OvTitleBarBase::onBtnRestoreClicked);
     connect(m_closeButton, &QPushButton::clicked, this, &OvTitleBarBase::btnCloseClicked);
-    connect(new QShortcut(Qt::Key_F11, this), &QShortcut::activated, this,
-        &OvTitleBarBase::onMaximizeShortcutActivated);
+    auto *maximize = new QShortcut(Qt::Key_F11, this);
+    maximize->setAutoRepeat(false);
+    connect(maximize, &QShortcut::activated, this, &OvTitleBarBase::onMaximizeShortcutActivated);
 }
 
 OvTitleBarBase::~OvTitleBarBase() = default;

@@ -43,6 +43,8 @@ public:
     void setIcon(const QString &imagePath, const QSize &size);
     // Whether dragging the bar moves the window; it does at first.
     void setDraggable(bool draggable);
+    // Whether the bar is being dragged now.
+    bool isDragged() const { return m_pressed; }
     void setBackgroundColor(const QColor &color);
     // The window's position (screen coordinates) and content size before it was maximised.
     void setNormalGeometry(const QPoint &pos, const QSize &size);

@@ -1,9 +1,12 @@
 #include "widgets/OvToast.h"
 
+#include "widgets/Compositing.h"
+
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPropertyAnimation>
 #include <QScreen>
 #include <QTextBoundaryFinder>
@@ -132,14 +135,45 @@ void OvToast::moveOverParent()
         over = QRect(parent->isWindow() ? parent->pos() : parent->mapToGlobal(QPoint(0, 0)), parent->size());
     else
         over = QGuiApplication::primaryScreen()->availableGeometry();
-    move(over.x() + (over.width() - width()) / 2, over.y() + Look::distanceFromTop);
+    moveOnScreen({over.x() + (over.width() - width()) / 2, over.y() + Look::distanceFromTop});
+}
+
+// A window that hangs over the edge of the screen must not take its message along.
+void OvToast::moveOnScreen(const QPoint &wanted)
+{
+    const QScreen *holder = QGuiApplication::screenAt(wanted + rect().center());
+    const QRect screen = (holder ? holder : this->screen())->availableGeometry();
+    move(qMax(screen.x(), qMin(wanted.x(), screen.x() + screen.width() - width())),
+        qMax(screen.y(), qMin(wanted.y(), screen.y() + screen.height() - height())));
+}
+
+QPainterPath OvToast::shape() const
+{
+    QPainterPath path;
+    path.addRoundedRect(rect(), Look::cornerRadius, Look::cornerRadius);
+    return path;
+}
+
+void OvToast::showEvent(QShowEvent *event)
+{
+    Compositing::setShape(this, shape());
+    QWidget::showEvent(event);
+}
+
+void OvToast::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (isVisible())
+        Compositing::setShape(this, shape());
 }
 
 void OvToast::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgba(Look::background));
-    painter.drawRoundedRect(rect(), Look::cornerRadius, Look::cornerRadius);
+    // Where the window is cut to its shape, there is nothing for a smooth edge to be mixed with.
+    if (mask().isEmpty())
+        painter.fillPath(shape(), QColor::fromRgba(Look::background));
+    else
+        painter.fillRect(rect(), QColor::fromRgba(Look::background));
 }

@@ -7,6 +7,7 @@
 #include <chrono>
 
 class QLabel;
+class QPainterPath;
 class QPropertyAnimation;
 
 // A short message over the upper part of a window: it fades in, stays, fades out, closes and deletes itself.
@@ -14,7 +15,8 @@ class QPropertyAnimation;
 //
 //     (new OvToast(window))->show(text, 3);
 //
-// GUI thread; child of the window it appears over, or without one over the primary screen.
+// It appears in the middle over its parent, 50 pixels below its upper edge, but never off the screen. GUI
+// thread; child of the window it appears over, or without one over the primary screen.
 class OvToast : public QWidget
 {
     Q_OBJECT
@@ -33,12 +35,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     using QWidget::show; // only with a text
 
     void setText(const QString &text);
     void moveOverParent();
+    void moveOnScreen(const QPoint &wanted);
+    QPainterPath shape() const;
     void fadeOut();
 
     QString m_text;

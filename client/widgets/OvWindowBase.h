@@ -70,6 +70,8 @@ public slots:
     void onBtnCloseClicked();
 
 protected:
+    // What windows may cover of the screen that holds this one.
+    QRect availableGeometry() const { return m_availableGeometry(pos()); }
     // Forgets which edge is under the pointer: the pointer is elsewhere now.
     void leaveEdge();
 

@@ -12,7 +12,7 @@ namespace orvane::cloud {
 
 namespace {
 
-constexpr std::size_t maxBytes = 128 * 1024;
+constexpr std::size_t maxBytes = std::size_t{128} * 1024;
 constexpr int maxKeys = 200;
 constexpr int maxKeyTextLength = 40; // UTF-16 units; "Ctrl+Shift+Backspace" and the like
 constexpr int maxRemarkLength = 500; // UTF-16 units

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int maxNameCharacters = 50;
 constexpr std::size_t maxConfigBytes
-    = 1024 * 1024; // what a request's body may have; checkKeyArray wants less
+    = std::size_t{1024} * 1024; // what a request's body may have; checkKeyArray wants less
 constexpr int lowestKeySize = 20;
 constexpr int highestKeySize = 40;
 constexpr int landscapeOrientation = 1;

@@ -28,6 +28,8 @@ void App::keyPressed(const KeyPress &)
 { }
 void App::textTyped(const QString &)
 { }
+void App::cameraPicture(const QImage &, QSize)
+{ }
 void App::systemChanged()
 { }
 void App::resume(TimePoint)

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 
+class QImage;
 class QPainter;
 
 namespace orvane::cloud {
@@ -93,6 +94,12 @@ public:
     virtual void pause();
     virtual std::optional<TimePoint> nextTick() const { return std::nullopt; }
     virtual void tick(TimePoint now);
+
+    // The size in pixels in which the app wants the camera's pictures; none = it does not want the camera.
+    // Looked at while the app is in front.
+    virtual std::optional<QSize> wantedCamera() const { return std::nullopt; }
+    // A picture of the camera, which the app wants: scaled to fit the screen, and its size as it came.
+    virtual void cameraPicture(const QImage &picture, QSize nativeSize);
 
 protected:
     // Called by resize.

@@ -1,6 +1,7 @@
 #include "device/AppCatalog.h"
 
 #include "device/ArenaApp.h"
+#include "device/CameraApp.h"
 #include "device/LatencyApp.h"
 #include "device/ListApp.h"
 #include "device/NotesApp.h"
@@ -13,7 +14,7 @@ namespace orvane::cloud {
 const std::vector<AppKind> &installedApps()
 {
     static const std::vector<AppKind> apps{AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video,
-        AppKind::Latency, AppKind::Arena, AppKind::Settings};
+        AppKind::Latency, AppKind::Camera, AppKind::Arena, AppKind::Settings};
     return apps;
 }
 
@@ -32,6 +33,8 @@ QString appName(AppKind kind)
         return QStringLiteral("Video");
     case AppKind::Latency:
         return QStringLiteral("Latency");
+    case AppKind::Camera:
+        return QStringLiteral("Camera");
     case AppKind::Arena:
         return QStringLiteral("Arena");
     case AppKind::Settings:
@@ -66,6 +69,8 @@ std::unique_ptr<App> makeApp(AppKind kind, App::Host host)
         return std::make_unique<VideoApp>(std::move(host));
     case AppKind::Latency:
         return std::make_unique<LatencyApp>(std::move(host));
+    case AppKind::Camera:
+        return std::make_unique<CameraApp>(std::move(host));
     case AppKind::Arena:
         return std::make_unique<ArenaApp>(std::move(host));
     case AppKind::Settings:

@@ -17,6 +17,7 @@ enum class AppKind {
     List,
     Video,
     Latency,
+    Camera,
     Arena,
     Settings,
 };

@@ -127,6 +127,22 @@ void drawLatency(QPainter &painter)
     painter.drawPath(bolt);
 }
 
+void drawCamera(QPainter &painter)
+{
+    drawPlate(painter, 0xFFFF9FB8, 0xFFD6336C);
+    painter.setBrush(QColor(theme::Paper));
+    painter.drawRoundedRect(QRectF(38, 24, 24, 16), 5, 5);
+    painter.drawRoundedRect(QRectF(18, 32, 64, 46), 10, 10);
+    painter.setBrush(QColor(0xFF7A1E3E));
+    painter.drawEllipse(QPointF(50, 55), 18, 18);
+    painter.setBrush(QColor(theme::Cyan));
+    painter.drawEllipse(QPointF(50, 55), 10, 10);
+    painter.setBrush(QColor(255, 255, 255, 200));
+    painter.drawEllipse(QPointF(46.5, 51.5), 3, 3);
+    painter.setBrush(QColor(theme::Coral));
+    painter.drawEllipse(QPointF(73, 41), 3, 3);
+}
+
 void drawArena(QPainter &painter)
 {
     drawPlate(painter, 0xFF4A4B9A, 0xFF151B45);
@@ -193,6 +209,9 @@ void drawAppIcon(QPainter &painter, AppKind kind, const QRectF &square)
         break;
     case AppKind::Latency:
         drawLatency(painter);
+        break;
+    case AppKind::Camera:
+        drawCamera(painter);
         break;
     case AppKind::Arena:
         drawArena(painter);

@@ -17,6 +17,7 @@ namespace {
 
 constexpr double NearPlane = 0.4; // metres; nothing nearer is drawn
 constexpr double GridDistance = 4; // metres
+constexpr int GridReach = static_cast<int>(ArenaWorld::HalfField / GridDistance); // lines from the middle
 constexpr double FieldEdge = ArenaWorld::HalfField + 0.6; // metres
 constexpr double WallDistance = 26; // metres from the middle; the camera never gets there
 constexpr double WallHeight = 1.6; // metres
@@ -216,7 +217,8 @@ void ArenaScene::drawLine(QPainter &painter, const ArenaPoint &from, const Arena
 void ArenaScene::drawGround(QPainter &painter) const
 {
     painter.setPen(QPen(QColor(130, 170, 230, 70), 2));
-    for (double place = -ArenaWorld::HalfField; place <= ArenaWorld::HalfField; place += GridDistance) {
+    for (int line = -GridReach; line <= GridReach; ++line) {
+        const double place = line * GridDistance;
         drawLine(painter, {place, -FieldEdge, 0}, {place, FieldEdge, 0});
         drawLine(painter, {-FieldEdge, place, 0}, {FieldEdge, place, 0});
     }

@@ -342,6 +342,18 @@ void Shell::textTyped(const QString &text)
     }
 }
 
+std::optional<QSize> Shell::wantedCamera() const
+{
+    return m_boot.isActive() || m_recents.isShown() ? std::nullopt : front().wantedCamera();
+}
+
+void Shell::cameraPicture(const QImage &picture, QSize nativeSize)
+{
+    if (wantedCamera()) {
+        front().cameraPicture(picture, nativeSize);
+    }
+}
+
 void Shell::goBack()
 {
     if (m_recents.isShown()) {

@@ -51,6 +51,11 @@ public:
     // Text as App::textTyped takes it.
     void textTyped(const QString &text);
 
+    // The size in which the app that is seen wants the camera's pictures; none = nobody wants the camera.
+    std::optional<QSize> wantedCamera() const;
+    // For the app that wants the camera; dropped when there is none.
+    void cameraPicture(const QImage &picture, QSize nativeSize);
+
     // The surface has turned.
     void resized();
     void reboot(TimePoint now);

@@ -1,13 +1,12 @@
 #include "device/VirtualDevice.h"
 
+#include "device/CameraPicture.h"
 #include "device/DeviceLog.h"
 #include "device/FingerTracker.h"
 #include "device/InputLog.h"
 #include "device/Shell.h"
 #include "device/Surface.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -21,7 +20,6 @@ namespace orvane::cloud {
 
 namespace {
 
-constexpr int CameraInput = 212; // sensor request that means the camera
 constexpr std::size_t MaxHeldKeys = 64; // of one session; more are not remembered
 constexpr QChar Delete = QChar(0x7F);
 
@@ -52,16 +50,6 @@ QString typed(const QString &text)
         }
     }
     return result;
-}
-
-// From the header alone; empty when it is no JPEG.
-QSize jpegSize(const std::string &bytes)
-{
-    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size()));
-    QBuffer buffer(&data);
-    QImageReader reader(&buffer, "jpeg");
-    const QSize size = reader.size();
-    return size.isValid() ? size : QSize(0, 0);
 }
 
 // Between 60 and 99, always the same for a device.
@@ -110,7 +98,8 @@ struct VirtualDevice::Impl
     InputLog log;
     std::map<std::string, std::set<int>> heldKeys; // by session; only sessions that hold keys
     int rotation = 0;
-    bool cameraWanted = false;
+    std::optional<QSize> appCamera; // what the app in front wanted last
+    std::optional<QSize> camera; // what the clients were asked for last
 };
 
 VirtualDevice::VirtualDevice(std::string padCode, const std::string &name, WallClock wallClock)
@@ -141,6 +130,7 @@ void VirtualDevice::setRotation(int rotation)
     if (onRotation) {
         onRotation(rotation);
     }
+    followCamera(); // in the screen's new shape
 }
 
 const QImage &VirtualDevice::frame()
@@ -181,6 +171,7 @@ void VirtualDevice::touch(
         change.position = d.surface.toContent(change.position);
         d.shell.touch(change, time);
     }
+    followCamera();
 }
 
 void VirtualDevice::key(const std::string &sessionKey, int action, int code, bool shift, TimePoint time)
@@ -214,6 +205,7 @@ void VirtualDevice::key(const std::string &sessionKey, int action, int code, boo
     if (held.empty()) {
         d.heldKeys.erase(sessionKey);
     }
+    followCamera();
 }
 
 void VirtualDevice::text(const std::string &sessionKey, const std::string &utf8, TimePoint time)
@@ -228,17 +220,30 @@ void VirtualDevice::text(const std::string &sessionKey, const std::string &utf8,
 
 void VirtualDevice::picture(const std::string &sessionKey, const std::string &jpeg, TimePoint time)
 {
-    const QSize size = jpegSize(jpeg);
-    if (size.isEmpty()) {
-        qCWarning(
-            deviceLog, "%s: a camera picture of %zu bytes is no JPEG", m_impl->padCode.c_str(), jpeg.size());
-    }
+    Impl &d = *m_impl;
+    const CameraPicture picture(jpeg);
+    const QSize size = picture.size();
     QJsonObject record = event("picture");
     record.insert(QStringLiteral("bytes"), static_cast<qint64>(jpeg.size()));
     record.insert(QStringLiteral("width"), size.width());
     record.insert(QStringLiteral("height"), size.height());
-    m_impl->log.add(time, sessionKey, record);
-    m_impl->shell.advance(time);
+    d.log.add(time, sessionKey, record);
+    d.shell.advance(time);
+
+    const char *code = d.padCode.c_str();
+    if (size.isEmpty()) {
+        qCWarning(deviceLog, "%s: a camera picture of %zu bytes is no JPEG", code, jpeg.size());
+    } else if (picture.isTooLarge()) {
+        qCWarning(deviceLog, "%s: a camera picture of %d x %d pixels is too large", code, size.width(),
+            size.height());
+    } else if (d.shell.wantedCamera()) {
+        const QImage decoded = picture.decoded(d.surface.contentSize());
+        if (decoded.isNull()) {
+            qCWarning(deviceLog, "%s: a camera picture of %zu bytes is damaged", code, jpeg.size());
+        } else {
+            d.shell.cameraPicture(decoded, size);
+        }
+    }
 }
 
 void VirtualDevice::audio(const std::string &sessionKey, int format, const std::string &data, TimePoint time)
@@ -283,8 +288,9 @@ void VirtualDevice::reboot(TimePoint time)
     d.shell.reboot(time);
     d.fingers.clear();
     d.heldKeys.clear();
-    if (d.cameraWanted) {
-        requestCamera(false);
+    d.appCamera.reset();
+    if (d.camera) {
+        askForCamera(std::nullopt);
     }
 }
 
@@ -296,7 +302,9 @@ bool VirtualDevice::isBooting() const
 bool VirtualDevice::openApp(const std::string &name)
 {
     const auto kind = appByName(QString::fromStdString(name));
-    return kind && m_impl->shell.open(*kind);
+    const bool opened = kind && m_impl->shell.open(*kind);
+    followCamera();
+    return opened;
 }
 
 std::string VirtualDevice::appStateJson() const
@@ -308,9 +316,38 @@ std::string VirtualDevice::appStateJson() const
 
 void VirtualDevice::requestCamera(bool on)
 {
-    m_impl->cameraWanted = on;
+    askForCamera(on ? std::optional(QSize(0, 0)) : std::nullopt);
+}
+
+std::optional<QSize> VirtualDevice::wantedCamera() const
+{
+    return m_impl->camera;
+}
+
+// Asks for what the app in front wants, if that has changed. Another size is asked for as an app does that is
+// started anew: the camera is given back first.
+void VirtualDevice::followCamera()
+{
+    Impl &d = *m_impl;
+    const std::optional<QSize> wanted = d.shell.wantedCamera();
+    if (wanted == d.appCamera) {
+        return;
+    }
+    if (d.appCamera) {
+        askForCamera(std::nullopt);
+    }
+    d.appCamera = wanted;
+    if (wanted) {
+        askForCamera(wanted);
+    }
+}
+
+void VirtualDevice::askForCamera(std::optional<QSize> size)
+{
+    m_impl->camera = size;
     if (onSensorRequest) {
-        onSensorRequest(CameraInput, on ? 1 : 0, 0, 0);
+        const QSize told = size.value_or(QSize(0, 0));
+        onSensorRequest(CameraInput, size ? 1 : 0, told.width(), told.height());
     }
 }
 

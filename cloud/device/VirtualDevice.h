@@ -64,7 +64,7 @@ public:
     // Types UTF-8 text. "\r", "\n" or "\r\n" = Enter, "\b" = Backspace, 0x7f = Delete, "\t" = tab; other
     // control characters are ignored.
     void text(const std::string &sessionKey, const std::string &utf8, TimePoint time);
-    // One camera picture as a JPEG.
+    // One camera picture as a JPEG; one that is no JPEG, damaged or too large is logged and not shown.
     void picture(const std::string &sessionKey, const std::string &jpeg, TimePoint time);
     // Microphone data; `format` as on the wire.
     void audio(const std::string &sessionKey, int format, const std::string &data, TimePoint time);
@@ -92,19 +92,29 @@ public:
     bool openApp(const std::string &name);
     // What the app in front shows, as a JSON object in UTF-8; docs/api.md lists the members.
     std::string appStateJson() const;
-    // Asks the clients for the camera, or no longer.
+    // Asks the clients for the camera, or no longer, whatever the app in front wants.
     void requestCamera(bool on);
+    // What the clients were asked for last: the size of the camera's pictures in pixels, 0 x 0 = any; none =
+    // the camera is not wanted.
+    std::optional<QSize> wantedCamera() const;
 
     // Input that was received after `sequence`, oldest first; bounded to the newest.
     std::vector<InputRecord> inputsSince(std::uint64_t sequence) const;
 
+    // The sensor that is asked for when the camera is wanted.
+    static constexpr int CameraInput = 212;
+
     // What the device has to tell its clients. Called from within the calls above, on their thread; must not
     // call back into the device. Any may be empty.
-    std::function<void(int inputType, int state, int width, int height)> onSensorRequest; // 212 = camera
+    std::function<void(int inputType, int state, int width, int height)>
+        onSensorRequest; // `state` 0: no longer
     std::function<void(const std::string &utf8)> onClipboard; // the user copied text on the device
     std::function<void(int rotation)> onRotation; // 0 to 3, after a change
 
 private:
+    void followCamera();
+    void askForCamera(std::optional<QSize> size);
+
     struct Impl;
     std::unique_ptr<Impl> m_impl;
 };

@@ -12,6 +12,8 @@ namespace {
 
 // More viewers of one device than this are told to come back later.
 constexpr std::size_t MaxViewers = 32;
+// Sessions that were asked for the camera and may be away; the one asked first is forgotten.
+constexpr std::size_t MaxCameraSessions = 2 * MaxViewers;
 // Action of a touch frame in which no finger went down or up.
 constexpr int TouchMove = 2;
 
@@ -201,14 +203,20 @@ void DeviceHost::joinNow(Joining joining)
     }
     int rotation = 0;
     QSize size;
+    std::optional<QSize> camera;
     {
         const std::lock_guard lock(m_deviceMutex);
         rotation = m_device.rotation();
+        camera = m_device.wantedCamera();
         size = m_device.screenSize();
     }
     joining.link->accept(server::loginAccepted(size, rotation));
     m_entries.push_back(std::make_unique<Entry>(Entry{joining.connection,
         Viewer(joining.sessionId, std::move(joining.link), std::move(joining.counters))}));
+    // It may have missed a request while it was away.
+    const QSize cameraSize = camera.value_or(QSize(0, 0));
+    tellSensor(m_entries.back()->viewer,
+        {VirtualDevice::CameraInput, camera ? 1 : 0, cameraSize.width(), cameraSize.height()});
     update(FrameCause::Animation);
 }
 
@@ -328,18 +336,41 @@ void DeviceHost::update(FrameCause cause)
 
 void DeviceHost::deliver(const DeviceEvent &event)
 {
-    const std::string message
-        = std::visit(Overloaded{
-                         [](const SensorEvent &e) {
-                             return server::sensorRequest(e.inputType, e.state, e.width, e.height);
-                         },
-                         [](const ClipboardEvent &e) { return server::clipboard(e.text); },
-                         [](const RotationEvent &e) { return server::screenRotation(e.rotation); },
-                     },
-            event);
-    for (const auto &entry : m_entries) {
-        entry->viewer.link().sendControl(message);
+    const auto tellAll = [this](const std::string &message) {
+        for (const auto &entry : m_entries) {
+            entry->viewer.link().sendControl(message);
+        }
+    };
+    std::visit(Overloaded{
+                   [this](const SensorEvent &e) {
+                       for (const auto &entry : m_entries) {
+                           tellSensor(entry->viewer, e);
+                       }
+                   },
+                   [&](const ClipboardEvent &e) { tellAll(server::clipboard(e.text)); },
+                   [&](const RotationEvent &e) { tellAll(server::screenRotation(e.rotation)); },
+               },
+        event);
+}
+
+// A request to stop goes only to sessions that were asked to start, also when they have been away meanwhile:
+// a client that serves several devices takes it for all of them.
+void DeviceHost::tellSensor(Viewer &viewer, const SensorEvent &event)
+{
+    std::vector<std::string> &asked = m_cameraSessions;
+    const auto known = std::find(asked.begin(), asked.end(), viewer.sessionId());
+    if (event.state != 0 && known == asked.end()) {
+        if (asked.size() == MaxCameraSessions) {
+            asked.erase(asked.begin());
+        }
+        asked.push_back(viewer.sessionId());
+    } else if (event.state == 0) {
+        if (known == asked.end()) {
+            return;
+        }
+        asked.erase(known);
     }
+    viewer.link().sendControl(server::sensorRequest(event.inputType, event.state, event.width, event.height));
 }
 
 const YuvPicture &DeviceHost::picture()

@@ -98,6 +98,7 @@ private:
     bool isWatched() const;
     void update(FrameCause cause);
     void deliver(const DeviceEvent &event);
+    void tellSensor(Viewer &viewer, const SensorEvent &event);
     const YuvPicture &picture();
     void schedule(TimePoint now, std::optional<TimePoint> deviceTick);
     void postUpdate();
@@ -110,6 +111,7 @@ private:
     std::vector<DeviceEvent> m_events; // m_deviceMutex; what the device said and nobody was told yet
 
     std::vector<std::unique_ptr<Entry>> m_entries; // strand
+    std::vector<std::string> m_cameraSessions; // strand; asked to start the camera and not yet to stop
     std::optional<YuvPicture> m_picture; // strand; none while nobody watches
     QRect m_stale; // strand; part of m_picture that the screen has changed since
     boost::asio::steady_timer m_timer; // strand

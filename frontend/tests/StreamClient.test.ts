@@ -328,6 +328,19 @@ describe('video', () => {
 })
 
 describe('input and pings', () => {
+  it('sends no camera pictures: requests for them are left alone', () => {
+    const { client, listener } = live()
+    const socket = FakeSocket.latest
+    const before = socket.bodies().length
+    for (const state of [1, 0])
+      socket.receive({ $case: 'sensorRequest', value: { inputType: 212, state, width: 720, height: 1280 } })
+    expect(socket.bodies()).toHaveLength(before)
+    expect(listener.onEnd).not.toHaveBeenCalled()
+    expect(listener.onReconnecting).not.toHaveBeenCalled()
+    client.sendTouch(touch(0, 5))
+    expect(socket.of('touch')).toHaveLength(1)
+  })
+
   it('answers pings with its own clock', () => {
     live()
     FakeSocket.latest.receive({ $case: 'ping', value: { id: 9, sentUs: 5 } })

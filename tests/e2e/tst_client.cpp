@@ -43,6 +43,8 @@ private slots:
     void deviceWindowOpensOnceAndIsGivenBack();
     void closedByTheWindowManagerIsGivenBackToo();
     void everyLogLineHasItsForm();
+    void cameraReachesTheDevice();
+    void deviceWithoutACameraToShow();
 
 private:
     // A client with a new home directory; the one before is killed.
@@ -55,6 +57,10 @@ private:
     void closeMainWindow();
     QString firstDevice(const char *member) const;
     int connectedSessions() const;
+    // What the camera app in front of the first device has shown.
+    int cameraPictures() const;
+    // All that the first device ever received, shown or not.
+    int receivedPictures() const;
 
     std::unique_ptr<Service> m_service;
     std::unique_ptr<Client> m_client;
@@ -299,6 +305,78 @@ void TestClient::everyLogLineHasItsForm()
         }
         QVERIFY(lines > 3);
         QVERIFY(m_client->log().contains(QStringLiteral("setLoginParams called, params ---> ")));
+    });
+}
+
+int TestClient::cameraPictures() const
+{
+    return m_service->appState(firstDevice("pad_code")).value(QLatin1String("pictures")).toInt(-1);
+}
+
+int TestClient::receivedPictures() const
+{
+    int count = 0;
+    for (const QJsonValue &event : m_service->inputEvents(firstDevice("pad_code")))
+        count += event.toObject().value(QLatin1String("type")) == QLatin1String("picture");
+    return count;
+}
+
+// The computer's camera is the one of the tests. Nobody does more than open the app on the device.
+void TestClient::cameraReachesTheDevice()
+{
+    e2e::steps([&] {
+        newClient();
+        m_client->setVariable(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGIN_PATH));
+        m_client->start();
+        signIn();
+        waitForDeviceList();
+        openFirstDevice();
+        const QString pad = firstDevice("pad_code");
+        QCOMPARE(receivedPictures(), 0);
+        m_service->openApp(pad, QStringLiteral("Camera"));
+        waitUntil(QStringLiteral("pictures are shown"), [&] { return cameraPictures() >= 5; });
+        const QJsonObject state = m_service->appState(pad);
+        QCOMPARE(state.value(QLatin1String("pictureWidth")).toInt(), 640);
+        QCOMPARE(state.value(QLatin1String("pictureHeight")).toInt(), 480);
+
+        // Left, the camera is off: a while later nothing has come.
+        m_service->openApp(pad, QStringLiteral("Home"));
+        waitUntil(QStringLiteral("no more pictures come"), [&] {
+            const int before = receivedPictures();
+            QTest::qWait(500); // five pictures of a camera that is on
+            return receivedPictures() == before;
+        });
+
+        // And again.
+        m_service->openApp(pad, QStringLiteral("Camera"));
+        waitUntil(QStringLiteral("pictures are shown again"), [&] { return cameraPictures() >= 3; });
+        closeMainWindow();
+    });
+}
+
+// No camera that Qt could use: the app waits, the client says so once and goes on.
+void TestClient::deviceWithoutACameraToShow()
+{
+    e2e::steps([&] {
+        newClient();
+        m_client->setVariable(QStringLiteral("GST_PLUGIN_SYSTEM_PATH_1_0"), QString());
+        m_client->start();
+        signIn();
+        waitForDeviceList();
+        openFirstDevice();
+        const QString pad = firstDevice("pad_code");
+        m_service->openApp(pad, QStringLiteral("Camera"));
+        const QString line = QStringLiteral("the camera cannot be forwarded");
+        waitUntil(QStringLiteral("the client says so"), [&] { return m_client->log().contains(line); });
+        m_service->openApp(pad, QStringLiteral("Notes"));
+        Desktop::activate(firstDevice("alias_name"));
+        Desktop::type(QStringLiteral("still here"));
+        waitUntil(QStringLiteral("typing goes on"), [&] {
+            return m_service->appState(pad).value(QLatin1String("text")) == QLatin1String("still here");
+        });
+        QCOMPARE(m_client->log().count(line), 1);
+        QCOMPARE(receivedPictures(), 0);
+        closeMainWindow();
     });
 }
 

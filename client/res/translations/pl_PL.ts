@@ -9,6 +9,37 @@
     </message>
 </context>
 <context>
+    <name>MenuBar</name>
+    <message>
+        <source>Home page</source>
+        <translation>Ekran główny</translation>
+    </message>
+    <message>
+        <source>Volume up</source>
+        <translation>Zwiększ głośność</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Zmniejsz głośność</translation>
+    </message>
+    <message>
+        <source>Screen capture</source>
+        <translation>Zrzut ekranu</translation>
+    </message>
+    <message>
+        <source>Screen Rotate</source>
+        <translation>Obróć ekran</translation>
+    </message>
+    <message>
+        <source>Key editing</source>
+        <translation>Edycja klawiszy</translation>
+    </message>
+    <message>
+        <source>Apply Key Binding with One Click</source>
+        <translation>Zastosuj przypisanie klawiszy jednym kliknięciem</translation>
+    </message>
+</context>
+<context>
     <name>OvMainWindowJsApi</name>
     <message>
         <source>Temporary grouping</source>
@@ -16,10 +47,75 @@
     </message>
 </context>
 <context>
+    <name>OvMaskTipsDialog</name>
+    <message>
+        <source>Hints</source>
+        <translation>Informacja</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Potwierdź</translation>
+    </message>
+</context>
+<context>
+    <name>QualityBox</name>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>720P HQ</source>
+        <translation>720P HQ</translation>
+    </message>
+    <message>
+        <source>720P</source>
+        <translation>720P</translation>
+    </message>
+    <message>
+        <source>576P</source>
+        <translation>576P</translation>
+    </message>
+    <message>
+        <source>480P</source>
+        <translation>480P</translation>
+    </message>
+    <message>
+        <source>240P</source>
+        <translation>240P</translation>
+    </message>
+</context>
+<context>
     <name>SingleController</name>
     <message>
         <source>The text is too long to paste.</source>
         <translation>Tekst jest zbyt długi, aby go wkleić.</translation>
+    </message>
+</context>
+<context>
+    <name>StandbyWidget</name>
+    <message>
+        <source>Not operating for a long time, has entered standby mode</source>
+        <translation>Długi brak aktywności: włączono tryb wstrzymania</translation>
+    </message>
+    <message>
+        <source>(standby mode can reduce traffic consumption, and applications within the device will continue to run)</source>
+        <translation>(Tryb wstrzymania zmniejsza zużycie danych, a aplikacje na urządzeniu nadal działają)</translation>
+    </message>
+    <message>
+        <source>Resume use</source>
+        <translation>Wznów</translation>
+    </message>
+    <message>
+        <source>Exit device</source>
+        <translation>Opuść urządzenie</translation>
+    </message>
+    <message>
+        <source>(After exiting the device, the application within the device will continue to run)</source>
+        <translation>(Po opuszczeniu urządzenia aplikacje na nim nadal działają)</translation>
     </message>
 </context>
 <context>

@@ -362,8 +362,8 @@ TEST_F(KeyMapApiTest, oversizedLayoutsAreRefused)
     expectRefused(id, {{"config", layout(201, 0)}}, "up to 200");
     expectRefused(id, {{"config", layout(200, 500)}}, "too large");
     expectRefused(id, {{"config", layout(1, 501)}}, "Key 1");
-    const std::string huge
-        = R"({"map_id":"X","action_type":"update","config":")" + std::string(1024 * 1024, '1') + "\"}";
+    const std::string huge = R"({"map_id":"X","action_type":"update","config":")"
+        + std::string(std::size_t{1024} * 1024, '1') + "\"}";
     EXPECT_EQ(postText("/apiv1/keyboard_map/actionMapConfig", huge, m_demo).status, 413);
 }
 

@@ -31,7 +31,7 @@ TEST_F(AppsTest, launcherOpensAppsByTouch)
 {
     EXPECT_EQ(app(), "Home");
     EXPECT_EQ(state()["apps"].toArray(),
-        (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Arena", "Settings"}));
+        (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings"}));
     for (const int rotation : {0, 1}) {
         device.setRotation(rotation);
         for (const QJsonValue name : state()["apps"].toArray()) {
@@ -50,11 +50,12 @@ TEST_F(AppsTest, launcherOpensAppsByTouch)
 
 TEST_F(AppsTest, openAppByName)
 {
-    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Arena", "Settings", "Home"}) {
+    for (const char *name :
+        {"Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings", "Home"}) {
         EXPECT_TRUE(device.openApp(name));
         EXPECT_EQ(app(), name);
     }
-    for (const char *name : {"", "paint", "Camera", "arena", "Nothing"}) {
+    for (const char *name : {"", "paint", "camera", "arena", "Nothing"}) {
         EXPECT_FALSE(device.openApp(name)) << name;
     }
 }

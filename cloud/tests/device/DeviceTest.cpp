@@ -230,7 +230,8 @@ TEST_F(DeviceTest, garbageInputChangesNothingForTheWorse)
 {
     std::mt19937 random(42);
     const auto any = [&random] { return static_cast<int>(random()); };
-    const char *apps[] = {"Home", "Paint", "Notes", "List", "Video", "Latency", "Arena", "Settings"};
+    const char *apps[]
+        = {"Home", "Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings"};
     const float pressures[] = {std::nanf(""), std::numeric_limits<float>::infinity(), -3, 1e30F, 0.5F};
     for (int step = 0; step < 4000; ++step) {
         const std::string session(1, static_cast<char>('a' + random() % 3));

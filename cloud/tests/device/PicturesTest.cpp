@@ -1,6 +1,8 @@
 #include "DeviceFixture.h"
 
+#include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QTransform>
 
 #include <linux/input-event-codes.h>
@@ -105,6 +107,15 @@ TEST_F(PicturesTest, everyAppInPortraitAndLandscape)
         device.openApp("Video");
         pass(4s);
         expectPicture("video" + suffix);
+        device.openApp("Camera");
+        expectPicture("camera-waiting" + suffix);
+        QFile photo(QStringLiteral(DEVICE_PICTURES) + "/home.png");
+        ASSERT_TRUE(photo.open(QIODevice::ReadOnly));
+        QByteArray jpeg;
+        QBuffer buffer(&jpeg);
+        ASSERT_TRUE(QImage::fromData(photo.readAll()).scaled(640, 480).save(&buffer, "JPG"));
+        device.picture("one", jpeg.toStdString(), now);
+        expectPicture("camera" + suffix);
         playArena(suffix);
         device.openApp("Settings");
         expectPicture("settings" + suffix);

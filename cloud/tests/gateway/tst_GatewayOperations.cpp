@@ -1,6 +1,8 @@
 // Input on its way to a device, and what the service does with sessions, devices and connections.
 #include "GatewayFixture.h"
 
+#include <QBuffer>
+
 #include <gmock/gmock.h>
 
 using namespace orvane::cloud;
@@ -159,6 +161,74 @@ TEST_F(GatewayFleetTest, RotationAndCameraAreToldToTheClients)
     const auto login = later->receive();
     ASSERT_TRUE(login);
     EXPECT_EQ(login->login_result().rotation(), 1);
+}
+
+// A session on the way to the camera app: what each client was asked for, and the pictures it sends.
+TEST_F(GatewayFleetTest, EverySessionIsAskedForTheCamera)
+{
+    start();
+    const auto isAsked = [](const auto &m) { return m.has_sensor_request(); };
+    const auto expectAsked = [&](RawClient &client, int state, int width, int height) {
+        const auto message = client.receiveUntil(isAsked);
+        ASSERT_TRUE(message);
+        EXPECT_EQ(message->sensor_request().input_type(), 212);
+        EXPECT_EQ(message->sensor_request().state(), state);
+        EXPECT_EQ(message->sensor_request().width(), width);
+        EXPECT_EQ(message->sensor_request().height(), height);
+    };
+    auto first = signIn(); // watches no video
+    auto second = watch(SecondLoginBytes);
+    fleet->openApp("VM1", "Camera");
+    expectAsked(*first, 1, 720, 1280);
+    expectAsked(*second, 1, 720, 1280);
+
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    ASSERT_TRUE(image.save(&buffer, "JPG"));
+    RawClient::Message picture;
+    picture.mutable_picture()->set_jpeg(jpeg.toStdString());
+    for (RawClient *client : {first.get(), second.get()}) {
+        ASSERT_TRUE(client->send(picture.SerializeAsString()));
+    }
+    EXPECT_TRUE(eventually([&] { return app()["pictures"] == 2; }));
+    EXPECT_EQ(app()["pictureWidth"], 64);
+    EXPECT_EQ(app()["pictureHeight"], 48);
+
+    fleet->openApp("VM1", "Home");
+    expectAsked(*first, 0, 0, 0);
+    expectAsked(*second, 0, 0, 0);
+}
+
+TEST_F(GatewayFleetTest, WhoComesLaterIsAskedForTheCameraToo)
+{
+    start();
+    fleet->openApp("VM1", "Camera");
+    auto client = signIn();
+    const auto isAsked = [](const auto &m) { return m.has_sensor_request(); };
+    auto asked = client->receiveUntil(isAsked);
+    ASSERT_TRUE(asked);
+    EXPECT_EQ(asked->sensor_request().state(), 1);
+    EXPECT_EQ(asked->sensor_request().width(), 720);
+
+    // One that misses the end while it is away is told when it comes back; one that was never asked is not.
+    client.reset();
+    EXPECT_TRUE(eventually([&] { return fleet->stats().empty(); }));
+    fleet->openApp("VM1", "Home");
+    client = signIn();
+    asked = client->receiveUntil(isAsked);
+    ASSERT_TRUE(asked);
+    EXPECT_EQ(asked->sensor_request().state(), 0);
+    auto stranger = signIn(SecondLoginBytes);
+    fleet->requestCamera("VM1", false);
+    fleet->rotate("VM1", 1);
+    for (RawClient *any : {client.get(), stranger.get()}) {
+        const auto next = any->receiveUntil(
+            [](const auto &m) { return m.has_sensor_request() || m.has_screen_rotation(); });
+        ASSERT_TRUE(next);
+        EXPECT_TRUE(next->has_screen_rotation()) << "not asked for what it does not do";
+    }
 }
 
 TEST_F(GatewayFleetTest, ARestartKeepsTheSession)

@@ -1,12 +1,7 @@
-#include "ApplyServer.h"
+#include "DeviceWindowFixture.h"
 
 #include "device/LoadingPage.h"
-#include "device/SingleController.h"
-#include "stream/VideoView.h"
-#include "widgets/OvTitleBarBase.h"
 #include "widgets/OvToast.h"
-
-#include <Recorder.h>
 
 #include <QApplication>
 #include <QClipboard>
@@ -20,34 +15,7 @@
 
 #include <thread>
 
-namespace {
-
-const QByteArray GrantedAnswer = R"({"code": 200, "msg": "success", "data": {"padCode": "VM100001",
-    "resultInfo": {"userId": 17, "sessionId": "s-42",
-        "controlList": [{"controlInfoList": [{"controlIp": "10.1.2.3", "controlPort": 8181}]}]}}})";
-
-// The recording SDK's keyboard gives the key with this on top.
-constexpr int Translated = 10'000;
-
-QStringList takeCalls()
-{
-    QStringList list;
-    for (const std::string &call : Recorder::instance().takeCalls())
-        list.append(QString::fromStdString(call));
-    return list;
-}
-
-QString keyCall(int action, int key)
-{
-    return QStringLiteral("SWDataSource::sendKeyEvent(%1, %2)").arg(action).arg(key + Translated);
-}
-
-QString textCall(const QString &text)
-{
-    return QStringLiteral("SWDataSource::sendInputString(\"%1\", %2)").arg(text).arg(text.length() + 1);
-}
-
-} // namespace
+using namespace devicetest;
 
 class tst_SingleController : public QObject
 {
@@ -58,6 +26,7 @@ private slots:
     void init();
     void cleanup();
     void newWindow();
+    void noPartIsEverAWindow();
     void longNameIsCut();
     void applyRequest();
     void granted();
@@ -147,11 +116,31 @@ void tst_SingleController::newWindow()
     QCOMPARE(m_window->deviceName(), QStringLiteral("Aurora"));
     QCOMPARE(m_window->windowTitle(), QStringLiteral("Aurora"));
     QCOMPARE(m_window->titleBar()->title(), QStringLiteral("Aurora"));
-    QCOMPARE(m_window->contentSize(), QSize(340, 640));
-    QCOMPARE(m_window->size(), QSize(360, 660));
+    QCOMPARE(m_window->contentSize(), QSize(390, 640));
+    QCOMPARE(m_window->size(), QSize(410, 660));
     QVERIFY(m_window->findChild<LoadingPage *>()->isVisible());
     QVERIFY(!showsVideo());
-    QCOMPARE(m_window->findChild<LoadingPage *>()->size(), QSize(340, 600));
+    QCOMPARE(m_window->findChild<LoadingPage *>()->size(), QSize(390, 600));
+}
+
+// A part that is shown before it has its place would flash on the screen as a window of its own.
+void tst_SingleController::noPartIsEverAWindow()
+{
+    struct Watch : QObject
+    {
+        int windows = 0;
+
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            const auto *widget = qobject_cast<QWidget *>(watched);
+            if (widget && event->type() == QEvent::Show && widget->isWindow())
+                ++windows;
+            return false;
+        }
+    } watch;
+    qApp->installEventFilter(&watch);
+    const SingleController window(QStringLiteral("service"), QStringLiteral("Phone"));
+    QCOMPARE(watch.windows, 0);
 }
 
 void tst_SingleController::longNameIsCut()
@@ -160,7 +149,7 @@ void tst_SingleController::longNameIsCut()
     SingleController window(QStringLiteral("1"), name);
     window.show();
     QCOMPARE(window.windowTitle(), name);
-    QCOMPARE(window.size(), QSize(360, 660));
+    QCOMPARE(window.size(), QSize(410, 660));
     QVERIFY(window.titleBar()->title().endsWith(QChar(0x2026)));
 }
 

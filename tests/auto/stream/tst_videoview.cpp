@@ -1,49 +1,18 @@
-#include "RecordedCalls.h"
+#include "VideoViewFixture.h"
 
-#include "stream/StreamController.h"
-#include "stream/TouchPointSource.h"
-#include "stream/VideoView.h"
-
-#include <swplay/SWDataSource.h>
-
-#include <QApplication>
 #include <QMetaMethod>
-#include <QMouseEvent>
 #include <QSignalSpy>
-#include <QTest>
-#include <QWheelEvent>
 
 #include <thread>
 
-namespace {
-
-// The keys that are held, as the key mapping would give them.
-class HeldKeys : public TouchPointSource
-{
-public:
-    void appendTouchPoints(QVector<int> &xs, QVector<int> &ys, const QSize &remote) override
-    {
-        askedFor = remote;
-        for (const QPoint &point : points) {
-            xs.append(point.x());
-            ys.append(point.y());
-        }
-    }
-
-    QVector<QPoint> points;
-    QSize askedFor;
-};
-
-} // namespace
-
-// The view under test is 360 x 640 in portrait, half of the remote screen's 720 x 1280.
-class tst_VideoView : public QObject
+// The video view: touches by the mouse and the auxiliary keys, and the remote screen's rotation.
+class tst_VideoView : public VideoViewFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
     void signalAndSlotOrder();
     void initialState();
     void clickSendsOnePointAndThenNone();
@@ -64,123 +33,13 @@ private slots:
     void recordingLiftsTheFinger();
     void losingFocusLiftsTheFinger();
     void hidingLiftsTheFinger();
-    void wheelDrag();
-    void wheelStepsEvery50Ms();
-    void wheelCentreIsTheGlobalPosition();
-    void wheelPinch();
-    void wheelInLandscape();
-    void wheelWithTouchpad();
-    void wheelWhileGestureRuns();
-    void wheelCarriesHeldPoints();
-    void wheelIgnored_data();
-    void wheelIgnored();
-    void gestureEndsWithTheSession();
     void remoteRotation_data();
     void remoteRotation();
     void remoteRotationOfATile();
     void everyRemoteRotationIsTold();
     void setOrientation();
-    void controlIsForgottenWithTheFocus();
     void pressGoesStraightToTheSession();
-
-private:
-    void turn(ScreenOrientation orientation);
-    void mouse(QEvent::Type type, const QPoint &position, Qt::MouseButton button, Qt::MouseButtons held);
-    void press(const QPoint &position);
-    void move(const QPoint &position);
-    void release(const QPoint &position);
-    void click(const QPoint &position);
-    void wheel(const QPoint &position, const QPoint &angle, const QPoint &pixels = {});
-    void waitForGesture();
-
-    QWidget *m_window = nullptr;
-    VideoView *m_view = nullptr;
-    std::shared_ptr<StreamController> m_controller;
-    std::chrono::milliseconds m_now{1000};
-    QStringList m_sent; // touchEvent and subControlTouchEvent, in their order
 };
-
-void tst_VideoView::init()
-{
-    Recorder::instance().reset();
-    Recorder::instance().setRemoteSize(720, 1280);
-    m_controller = std::make_shared<StreamController>();
-    m_controller->setDataSource(std::make_shared<SWDataSource>(1, nullptr));
-    m_window = new QWidget;
-    m_window->resize(800, 800);
-    m_view = new VideoView(m_window);
-    m_view->setGeometry(20, 30, 360, 640);
-    m_view->setStreamController(m_controller);
-    m_now = std::chrono::milliseconds(1000);
-    m_view->setClock([this] { return m_now; });
-    m_sent.clear();
-    connect(m_view, &VideoView::touchEvent, this, [this](int action, QVector<int> &xs, QVector<int> &ys) {
-        QStringList points;
-        for (int i = 0; i < xs.size(); ++i)
-            points.append(QStringLiteral("%1,%2").arg(xs.at(i)).arg(ys.at(i)));
-        QCOMPARE(xs.size(), ys.size());
-        m_sent.append(QStringLiteral("%1: %2").arg(action).arg(points.join(' ')));
-    });
-    connect(m_view, &VideoView::subControlTouchEvent, this, [this](int action, float x, float y) {
-        m_sent.append(QStringLiteral("sub %1: %2,%3").arg(action).arg(x).arg(y));
-    });
-    m_window->show();
-    QApplication::setActiveWindow(m_window);
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-}
-
-void tst_VideoView::cleanup()
-{
-    delete m_window;
-    m_controller.reset();
-}
-
-void tst_VideoView::turn(ScreenOrientation orientation)
-{
-    if (m_view->orientation() != orientation)
-        m_view->setOrientation(orientation);
-}
-
-// Straight to the view: the pointer of the display stays out of it.
-void tst_VideoView::mouse(
-    QEvent::Type type, const QPoint &position, Qt::MouseButton button, Qt::MouseButtons held)
-{
-    QMouseEvent event(type, position, m_view->mapToGlobal(position), button, held, Qt::NoModifier);
-    QApplication::sendEvent(m_view, &event);
-}
-
-void tst_VideoView::press(const QPoint &position)
-{
-    mouse(QEvent::MouseButtonPress, position, Qt::LeftButton, Qt::LeftButton);
-}
-
-void tst_VideoView::move(const QPoint &position)
-{
-    mouse(QEvent::MouseMove, position, Qt::NoButton, Qt::LeftButton);
-}
-
-void tst_VideoView::release(const QPoint &position)
-{
-    mouse(QEvent::MouseButtonRelease, position, Qt::LeftButton, Qt::NoButton);
-}
-
-void tst_VideoView::click(const QPoint &position)
-{
-    press(position);
-    release(position);
-}
-
-void tst_VideoView::wheel(const QPoint &position, const QPoint &angle, const QPoint &pixels)
-{
-    QWheelEvent event(position, m_view->mapToGlobal(position), pixels, angle, Qt::NoButton, Qt::NoModifier,
-        Qt::NoScrollPhase, false);
-    QApplication::sendEvent(m_view, &event);
-}
-
-void tst_VideoView::waitForGesture()
-{
-    QTRY_VERIFY(!m_sent.isEmpty() && m_sent.last().startsWith("1:"));
-}
 
 void tst_VideoView::signalAndSlotOrder()
 {
@@ -408,122 +267,6 @@ void tst_VideoView::hidingLiftsTheFinger()
     QCOMPARE(m_sent, (QStringList{"1: -1,-1", "sub 1: 0.25,0.25"}));
 }
 
-void tst_VideoView::wheelDrag()
-{
-    wheel({180, 320}, {0, 120});
-    waitForGesture();
-    QCOMPARE(m_sent,
-        (QStringList{"0: 360,512", "2: 360,544", "2: 360,576", "2: 360,608", "2: 360,640", "2: 360,672",
-            "2: 360,704", "2: 360,736", "2: 360,768", "1: 360,768"}));
-}
-
-void tst_VideoView::wheelStepsEvery50Ms()
-{
-    QVERIFY(!m_view->findChild<QTimer *>());
-    wheel({180, 320}, {0, 120});
-    const auto *timer = m_view->findChild<QTimer *>();
-    QVERIFY(timer);
-    QVERIFY(timer->isActive());
-    QCOMPARE(timer->interval(), 50);
-    QVERIFY(!timer->isSingleShot());
-}
-
-// Not the position within the view that the event carries as well.
-void tst_VideoView::wheelCentreIsTheGlobalPosition()
-{
-    QWheelEvent event(QPointF(0, 0), m_view->mapToGlobal({180, 320}), QPoint(), QPoint(0, 120), Qt::NoButton,
-        Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(m_view, &event);
-    QCOMPARE(m_sent, QStringList("0: 360,512"));
-}
-
-void tst_VideoView::wheelPinch()
-{
-    QTest::keyPress(m_view, Qt::Key_Control);
-    wheel({180, 320}, {0, 120});
-    waitForGesture();
-    QCOMPARE(m_sent,
-        (QStringList{
-            "0: 360,576 360,704", "2: 360,544 360,736", "2: 360,512 360,768", "1: 360,512 360,768"}));
-    m_sent.clear();
-    QTest::keyRelease(m_view, Qt::Key_Control);
-    wheel({180, 320}, {0, 120});
-    QCOMPARE(m_sent, QStringList("0: 360,512"));
-}
-
-void tst_VideoView::wheelInLandscape()
-{
-    turn(ScreenOrientation::Landscape);
-    QCOMPARE(m_view->size(), QSize(640, 360));
-    wheel({160, 90}, {0, 120}); // the centre is (540, 320)
-    waitForGesture();
-    QCOMPARE(m_sent.first(), QStringLiteral("0: 668,320"));
-    QCOMPARE(m_sent.at(1), QStringLiteral("2: 636,320"));
-    QCOMPARE(m_sent.last(), QStringLiteral("1: 412,320"));
-}
-
-void tst_VideoView::wheelWithTouchpad()
-{
-    wheel({180, 320}, {0, 120}, {4, -6});
-    waitForGesture();
-    QCOMPARE(m_sent, (QStringList{"0: 356,646", "2: 364,634", "1: 364,634"}));
-}
-
-void tst_VideoView::wheelWhileGestureRuns()
-{
-    wheel({180, 320}, {0, 120});
-    wheel({10, 10}, {0, -120});
-    wheel({10, 10}, {0, -120});
-    waitForGesture();
-    QCOMPARE(m_sent.size(), 10);
-    QCOMPARE(m_sent.last(), QStringLiteral("1: 360,768"));
-}
-
-void tst_VideoView::wheelCarriesHeldPoints()
-{
-    HeldKeys keys;
-    keys.points = {{11, 12}};
-    m_view->setTouchPointSource(&keys);
-    press({0, 0});
-    m_sent.clear();
-    wheel({180, 320}, {0, 30}); // 32 up and 32 down: 64 to go
-    waitForGesture();
-    QCOMPARE(m_sent,
-        (QStringList{
-            "0: 360,608 11,12 0,0", "2: 360,640 11,12 0,0", "2: 360,672 11,12 0,0", "1: 360,672 11,12 0,0"}));
-}
-
-void tst_VideoView::wheelIgnored_data()
-{
-    QTest::addColumn<int>("viewMode");
-    QTest::addColumn<QPoint>("angle");
-    QTest::addColumn<bool>("ignored");
-    QTest::newRow("interactive") << 1 << QPoint(0, 120) << false;
-    QTest::newRow("tile") << 2 << QPoint(0, 120) << true;
-    QTest::newRow("end of a touchpad's scrolling") << 1 << QPoint() << true;
-}
-
-void tst_VideoView::wheelIgnored()
-{
-    QFETCH(int, viewMode);
-    QFETCH(QPoint, angle);
-    QFETCH(bool, ignored);
-    m_view->setViewMode(viewMode);
-    wheel({180, 320}, angle);
-    QCOMPARE(m_sent.isEmpty(), ignored);
-}
-
-void tst_VideoView::gestureEndsWithTheSession()
-{
-    wheel({180, 320}, {0, 120});
-    m_sent.clear();
-    m_controller->stopStream();
-    auto *timer = m_view->findChild<QTimer *>();
-    QVERIFY(timer);
-    QTRY_VERIFY(!timer->isActive());
-    QCOMPARE(m_sent, QStringList());
-}
-
 void tst_VideoView::remoteRotation_data()
 {
     QTest::addColumn<int>("rotation");
@@ -586,15 +329,6 @@ void tst_VideoView::setOrientation()
     m_view->setOrientation(ScreenOrientation::Portrait);
     QCOMPARE(m_view->size(), QSize(360, 640));
     QCOMPARE(rotations.takeFirst().first().value<ScreenOrientation>(), ScreenOrientation::Portrait);
-}
-
-void tst_VideoView::controlIsForgottenWithTheFocus()
-{
-    m_view->setFocus();
-    QTest::keyPress(m_view, Qt::Key_Control);
-    m_view->clearFocus();
-    wheel({180, 320}, {0, 120});
-    QCOMPARE(m_sent, QStringList("0: 360,512"));
 }
 
 // Wired as a window wires it, a press is in the SDK's hands when the mouse event returns.

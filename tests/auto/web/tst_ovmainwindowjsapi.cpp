@@ -3,6 +3,7 @@
 #include "WebTestSupport.h"
 
 #include "device/SingleController.h"
+#include "device/StandbyWidget.h"
 #include "net/HttpHelper.h"
 #include "web/OvMainWindowJsApi.h"
 #include "web/OvWebContainer.h"
@@ -37,6 +38,7 @@ private slots:
     void opensADeviceWindow();
     void secondOpenRestoresTheFirstWindow();
     void closeButtonGivesTheDeviceBack();
+    void exitFromStandbyGivesTheDeviceBack();
     void closedWindowIsForgotten();
     void opensWithoutAServiceId_data();
     void opensWithoutAServiceId();
@@ -208,6 +210,18 @@ void TestOvMainWindowJsApi::closeButtonGivesTheDeviceBack()
     QCOMPARE(requests(QStringLiteral("device_unbind")).last(),
         (QJsonObject{{QStringLiteral("service_id"), QStringLiteral("100003")},
             {QStringLiteral("action_type"), QStringLiteral("device_unbind")}}));
+}
+
+void TestOvMainWindowJsApi::exitFromStandbyGivesTheDeviceBack()
+{
+    open(QStringLiteral("100011"), QStringLiteral("Iris"));
+    const QPointer<SingleController> window = m_api->singleController(QStringLiteral("100011"));
+    const int before = requests(QStringLiteral("device_unbind")).size();
+    emit window->findChild<StandbyWidget *>()->sigExitBtnClicked();
+    QTRY_COMPARE(requests(QStringLiteral("device_unbind")).size(), before + 1);
+    QCOMPARE(requests(QStringLiteral("device_unbind")).last().value(QStringLiteral("service_id")).toString(),
+        QStringLiteral("100011"));
+    QTRY_VERIFY(window.isNull());
 }
 
 void TestOvMainWindowJsApi::closedWindowIsForgotten()

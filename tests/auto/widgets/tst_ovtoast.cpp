@@ -60,6 +60,9 @@ private slots:
     void position();
     void positionOverChild();
     void withoutParent();
+    void staysOnTheScreen_data();
+    void staysOnTheScreen();
+    void shapeWithoutCompositor();
     void goesWithItsParent();
     void painting();
 
@@ -247,6 +250,41 @@ void TestOvToast::withoutParent()
     QCOMPARE(toast.pos(), QPoint(screen.x() + (screen.width() - toast.width()) / 2, screen.y() + 50));
 }
 
+void TestOvToast::staysOnTheScreen_data()
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QTest::addColumn<QPoint>("parentPos");
+    QTest::newRow("left edge") << QPoint(screen.left() - 380, 200);
+    QTest::newRow("right edge") << QPoint(screen.right() - 30, 200);
+    QTest::newRow("upper edge") << QPoint(300, screen.top() - 400);
+    QTest::newRow("lower edge") << QPoint(300, screen.bottom() - 55);
+}
+
+// Although the window hangs over its edge.
+void TestOvToast::staysOnTheScreen()
+{
+    QFETCH(QPoint, parentPos);
+    QWidget parent;
+    parent.setGeometry(QRect(parentPos, QSize(400, 300)));
+    OvToast toast(&parent);
+    toast.show(QStringLiteral("Network error"), 1);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QVERIFY(screen.contains(toast.geometry()));
+}
+
+// The tests' window system cannot compose: nothing black may stand in the corners.
+void TestOvToast::shapeWithoutCompositor()
+{
+    OvToast toast(&m_parent);
+    toast.show(QStringLiteral("Network error"), 1);
+    QVERIFY(!toast.mask().contains(QPoint(0, 0)));
+    QVERIFY(toast.mask().contains(QPoint(4, 4)));
+    const QPoint lastPixel = toast.rect().bottomRight();
+    toast.show(QStringLiteral("Network error, and some more of it"), 1);
+    QVERIFY(toast.mask().contains(lastPixel));
+    QVERIFY(!toast.mask().contains(toast.rect().bottomRight()));
+}
+
 void TestOvToast::goesWithItsParent()
 {
     auto *parent = new QWidget;
@@ -262,6 +300,7 @@ void TestOvToast::painting()
     toast.show(QStringLiteral("Network error"), 1);
     QImage image(toast.size(), QImage::Format_ARGB32);
     image.fill(Qt::transparent);
+    toast.clearMask(); // as where the window system composes
     toast.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     QCOMPARE(image.pixelColor(toast.width() / 2, 1).alpha(), 230);

@@ -24,13 +24,21 @@ const QString mainWindowTitle = QStringLiteral("Orvane");
 constexpr QSize deviceScreen(720, 1280);
 constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
+constexpr int menuBarWidth = 50;
 constexpr int workingWidth = 1000; // the main window is at least this wide after sign-in
 constexpr int TabsToOpen = 2; // from the search field over its clear button
 constexpr int TabsToOpenInPage = TabsToOpen + 1; // the button beside "Open"
+// In the device window.
+constexpr int menuButtonHeight = 45;
+constexpr int CaptureButton = 3; // in the menu bar
+constexpr int RotateButton = 4;
+constexpr QPoint resumeButton(170, 320); // in the video's area
+constexpr int longestStandbyWaitMs = 90000;
 // In the main window at its working size.
 constexpr QPoint devicesItem(75, 90);
 constexpr QPoint groupsItem(75, 134);
 constexpr QPoint settingsItem(75, 178);
+constexpr QPoint oneMinute(329, 519);
 constexpr QPoint german(379, 291);
 constexpr QPoint arabic(379, 379);
 constexpr QPoint englishOfArabic(761, 203); // the Arabic page is mirrored
@@ -59,17 +67,23 @@ bool DemoRun::run()
         m_service.start();
         say(QStringLiteral("the local service answers at %1").arg(m_service.apiBaseUrl()));
         m_client.setApiBaseUrl(m_service.apiBaseUrl());
+        m_client.setVariable(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGIN_PATH));
         m_client.start();
         signIn();
+        chooseStandbyTime();
         openDevice();
         paint();
         writeNotes();
         scrollList();
-        closeDevice();
+        turn();
+        showCamera();
+        captureDevice();
         showGroups();
         changeLanguage();
+        enterStandby();
+        closeDevice();
         openWebDevice();
-        saveScreenshot();
+        capturePage();
         closeWebDevice();
         checkLog();
         say(QStringLiteral("done: %1 pictures in %2").arg(m_step).arg(QDir(m_outputDir).absolutePath()));
@@ -145,12 +159,12 @@ void DemoRun::launch(const QString &app)
     Desktop::click(onScreen({centre.at(0).toInt(), centre.at(1).toInt()}));
     waitUntil(QStringLiteral("%1 is in front").arg(app),
         [&] { return m_service.appState(m_pad).value(QLatin1String("app")).toString() == app; });
-    settledPicture(QStringLiteral("%1 is shown").arg(app), videoArea());
 }
 
 void DemoRun::paint()
 {
     launch(QStringLiteral("Paint"));
+    settledPicture(QStringLiteral("Paint is shown"), videoArea());
     // A spiral and a zigzag.
     QVector<QPoint> spiral;
     for (int i = 0; i <= 40; ++i) {
@@ -173,6 +187,7 @@ void DemoRun::paint()
 void DemoRun::writeNotes()
 {
     launch(QStringLiteral("Notes"));
+    settledPicture(QStringLiteral("Notes is shown"), videoArea());
     Desktop::type(QStringLiteral("hello"));
     Desktop::key(QStringLiteral("space"));
     Desktop::type(QStringLiteral("A7x"));
@@ -197,6 +212,7 @@ void DemoRun::writeNotes()
 void DemoRun::scrollList()
 {
     launch(QStringLiteral("List"));
+    settledPicture(QStringLiteral("List is shown"), videoArea());
     const auto value = [this](const char *name) {
         return m_service.appState(m_pad).value(QLatin1String(name)).toDouble();
     };
@@ -215,6 +231,75 @@ void DemoRun::scrollList()
     save(QStringLiteral("list-pinched"),
         settledPicture(QStringLiteral("the zoomed list is shown"), Desktop::window(m_deviceName)));
     say(QStringLiteral("pinched by Ctrl + wheel: zoom from %1 to %2").arg(zoom).arg(value("zoom")));
+}
+
+void DemoRun::turn()
+{
+    const auto turnTo = [this](const QString &where, const std::function<bool(const QSize &)> &isSo) {
+        Desktop::click(menuButton(RotateButton));
+        waitUntil(QStringLiteral("the window is in %1").arg(where),
+            [&] { return isSo(Desktop::window(m_deviceName).size()); });
+        return settledPicture(QStringLiteral("the turned picture is shown"), Desktop::window(m_deviceName));
+    };
+    m_service.rotate(m_pad, 1);
+    waitUntil(QStringLiteral("the window has followed the device"), [this] {
+        const QSize size = Desktop::window(m_deviceName).size();
+        return size.width() > size.height();
+    });
+    save(QStringLiteral("turned-by-the-device"),
+        settledPicture(QStringLiteral("the turned picture is shown"), Desktop::window(m_deviceName)));
+    turnTo(QStringLiteral("portrait"), [](const QSize &size) { return size.width() < size.height(); });
+    save(QStringLiteral("turned-by-the-button"),
+        turnTo(QStringLiteral("landscape"), [](const QSize &size) { return size.width() > size.height(); }));
+    m_service.rotate(m_pad, 0);
+    waitUntil(QStringLiteral("the window is upright again"), [this] {
+        const QSize size = Desktop::window(m_deviceName).size();
+        return size.width() < size.height();
+    });
+    settledPicture(QStringLiteral("the upright picture is shown"), Desktop::window(m_deviceName));
+    say(QStringLiteral("turned the window from the device's side and by the button"));
+}
+
+// The computer's camera is a test source, so that there is one everywhere.
+void DemoRun::showCamera()
+{
+    launch(QStringLiteral("Camera"));
+    const auto pictures
+        = [this] { return m_service.appState(m_pad).value(QLatin1String("pictures")).toInt(); };
+    waitUntil(QStringLiteral("the device has pictures of the camera"), [&] { return pictures() >= 3; });
+    waitUntil(QStringLiteral("the camera's picture is shown"),
+        [this] { return e2e::colourCount(Desktop::screenshot(videoArea()), 200) >= 200; });
+    save(QStringLiteral("camera"), Desktop::screenshot(Desktop::window(m_deviceName)));
+    say(QStringLiteral("the device's camera app has shown %1 pictures").arg(pictures()));
+    m_service.openApp(m_pad, QStringLiteral("Home"));
+    settledPicture(QStringLiteral("the launcher is shown"), videoArea());
+}
+
+void DemoRun::captureDevice()
+{
+    Desktop::click(menuButton(CaptureButton));
+    saveAs(QStringLiteral("device-screenshot"), deviceScreen);
+    say(QStringLiteral("saved a screenshot of 720 x 1280 from the device window"));
+}
+
+// The minute without input has begun with the last use of the window; the main window was used meanwhile.
+void DemoRun::enterStandby()
+{
+    const auto pictures
+        = [this] { return m_service.sessionStats(m_pad).value(QLatin1String("frames_sent")).toInt(); };
+    waitUntil(
+        QStringLiteral("the window is in stand-by"),
+        [this] { return m_service.sessionStats(m_pad).value(QLatin1String("cast_mode")).toInt(1) == 0; },
+        longestStandbyWaitMs);
+    Desktop::activate(m_deviceName);
+    save(QStringLiteral("stand-by"),
+        settledPicture(QStringLiteral("the stand-by page is shown"), Desktop::window(m_deviceName)));
+    const int before = pictures();
+    Desktop::click(videoArea().topLeft() + resumeButton);
+    waitUntil(QStringLiteral("pictures come again"), [&] { return pictures() > before; });
+    save(QStringLiteral("resumed"),
+        settledPicture(QStringLiteral("the device is shown again"), Desktop::window(m_deviceName)));
+    say(QStringLiteral("went to stand-by after a minute without input, and resumed"));
 }
 
 void DemoRun::closeDevice()
@@ -255,6 +340,16 @@ void DemoRun::clickInMainWindow(const QPoint &position)
 {
     Desktop::activate(mainWindowTitle);
     Desktop::click(Desktop::window(mainWindowTitle).topLeft() + position);
+}
+
+void DemoRun::chooseStandbyTime()
+{
+    clickInMainWindow(settingsItem);
+    settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle));
+    clickInMainWindow(oneMinute);
+    settledPicture(QStringLiteral("the time is chosen"), Desktop::window(mainWindowTitle));
+    clickInMainWindow(devicesItem);
+    settledPicture(QStringLiteral("the device list is shown"), Desktop::window(mainWindowTitle));
 }
 
 void DemoRun::showGroups()
@@ -301,20 +396,24 @@ void DemoRun::openWebDevice()
     say(QStringLiteral("'%1' is live in a web device window").arg(m_deviceName));
 }
 
-void DemoRun::saveScreenshot()
+void DemoRun::capturePage()
+{
+    Desktop::click(Desktop::window(m_deviceName).topLeft() + captureButton);
+    saveAs(QStringLiteral("page-screenshot"), deviceScreen);
+    say(QStringLiteral("saved a screenshot of 720 x 1280 from the page"));
+}
+
+void DemoRun::saveAs(const QString &name, const QSize &size)
 {
     const QString dialog = QStringLiteral("Save File");
-    Desktop::click(Desktop::window(m_deviceName).topLeft() + captureButton);
     waitUntil(QStringLiteral("the save dialog is open"), [&] { return !Desktop::window(dialog).isEmpty(); });
     settledPicture(QStringLiteral("the save dialog is painted"), Desktop::window(dialog));
-    const QString file = QDir(m_outputDir).absoluteFilePath(pictureName(QStringLiteral("saved-screenshot")));
+    const QString file = QDir(m_outputDir).absoluteFilePath(pictureName(name));
     Desktop::activate(dialog);
     Desktop::key(QStringLiteral("ctrl+a"));
     Desktop::type(file);
     Desktop::key(QStringLiteral("Return"));
-    waitUntil(
-        QStringLiteral("the screenshot is on the disk"), [&] { return QImage(file).size() == deviceScreen; });
-    say(QStringLiteral("saved a screenshot of 720 x 1280 from the page"));
+    waitUntil(QStringLiteral("the screenshot is on the disk"), [&] { return QImage(file).size() == size; });
 }
 
 void DemoRun::closeWebDevice()
@@ -329,7 +428,13 @@ void DemoRun::closeWebDevice()
 QRect DemoRun::videoArea() const
 {
     return Desktop::window(m_deviceName)
-        .adjusted(shadowMargin, shadowMargin + titleBarHeight, -shadowMargin, -shadowMargin);
+        .adjusted(shadowMargin, shadowMargin + titleBarHeight, -shadowMargin - menuBarWidth, -shadowMargin);
+}
+
+QPoint DemoRun::menuButton(int index) const
+{
+    const QRect video = videoArea();
+    return {video.right() + menuBarWidth / 2, video.top() + index * menuButtonHeight + menuButtonHeight / 2};
 }
 
 QPoint DemoRun::onScreen(const QPoint &devicePoint) const

@@ -23,11 +23,16 @@ private:
     void paint();
     void writeNotes();
     void scrollList();
+    void turn();
+    void showCamera();
+    void captureDevice();
+    void enterStandby();
     void closeDevice();
+    void chooseStandbyTime();
     void showGroups();
     void changeLanguage();
     void openWebDevice();
-    void saveScreenshot();
+    void capturePage();
     void closeWebDevice();
     void checkLog();
     void waitForNoSession();
@@ -38,6 +43,10 @@ private:
     // Screen position of a point of the device's screen, given in its 720 x 1280 pixels.
     QPoint onScreen(const QPoint &devicePoint) const;
     QRect videoArea() const;
+    // The middle of a button of the window's menu bar, counted from the top.
+    QPoint menuButton(int index) const;
+    // Saves what a save dialog is opened for as the next step's picture.
+    void saveAs(const QString &name, const QSize &size);
     // The file name of the next step's picture.
     QString pictureName(const QString &name);
     void save(const QString &name, const QImage &picture);

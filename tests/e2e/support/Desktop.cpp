@@ -130,6 +130,21 @@ void Desktop::key(const QString &name)
     xdotool({QStringLiteral("key"), name});
 }
 
+void Desktop::key(const QString &name, const QString &held)
+{
+    xdotool({QStringLiteral("keydown"), held, QStringLiteral("key"), name, QStringLiteral("keyup"), held});
+}
+
+void Desktop::keyDown(const QString &name)
+{
+    xdotool({QStringLiteral("keydown"), name});
+}
+
+void Desktop::keyUp(const QString &name)
+{
+    xdotool({QStringLiteral("keyup"), name});
+}
+
 QImage Desktop::screenshot(const QRect &area)
 {
     QScreen *screen = QGuiApplication::primaryScreen();

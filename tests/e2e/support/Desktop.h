@@ -27,6 +27,11 @@ public:
     static void type(const QString &text);
     // A key by its X name, such as "Return" or "ctrl+v".
     static void key(const QString &name);
+    // The same while another key is held, which comes up last.
+    static void key(const QString &name, const QString &held);
+    // Press and release of a key, which repeats meanwhile as keys do.
+    static void keyDown(const QString &name);
+    static void keyUp(const QString &name);
     static QImage screenshot(const QRect &area = {});
 
 private:

@@ -52,7 +52,7 @@ void Service::kill()
     m_process.waitForFinished(5000);
 }
 
-QJsonObject Service::call(
+QByteArray Service::request(
     const QString &method, const QString &path, const QJsonObject &body, const QJsonObject &headers) const
 {
     QNetworkAccessManager manager;
@@ -69,7 +69,13 @@ QJsonObject Service::call(
         loop.exec();
     if (!reply->isFinished() || reply->error() != QNetworkReply::NoError)
         throw StepFailed(QStringLiteral("%1 %2: %3").arg(method, path, reply->errorString()));
-    return QJsonDocument::fromJson(reply->readAll()).object();
+    return reply->readAll();
+}
+
+QJsonObject Service::call(
+    const QString &method, const QString &path, const QJsonObject &body, const QJsonObject &headers) const
+{
+    return QJsonDocument::fromJson(request(method, path, body, headers)).object();
 }
 
 QJsonObject Service::admin(const QString &method, const QString &path, const QJsonObject &body) const
@@ -103,6 +109,28 @@ QJsonArray Service::inputEvents(const QString &pad, qint64 since) const
 QJsonObject Service::appState(const QString &pad) const
 {
     return admin(QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/app").arg(pad));
+}
+
+QImage Service::screen(const QString &pad) const
+{
+    return QImage::fromData(
+        request(QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/screen").arg(pad)), "PNG");
+}
+
+void Service::rotate(const QString &pad, int rotation) const
+{
+    admin(QStringLiteral("POST"), QStringLiteral("/admin/devices/%1/rotate").arg(pad),
+        {{QStringLiteral("rotation"), rotation}});
+}
+
+QJsonObject Service::sessionStats(const QString &pad) const
+{
+    const QJsonObject stats = admin(QStringLiteral("GET"), QStringLiteral("/admin/stats"));
+    for (const QJsonValue &session : stats.value(QLatin1String("sessions")).toArray()) {
+        if (session.toObject().value(QLatin1String("pad_code")).toString() == pad)
+            return session.toObject();
+    }
+    return {};
 }
 
 void Service::openApp(const QString &pad, const QString &app) const

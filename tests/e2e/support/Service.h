@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QProcess>
@@ -36,10 +37,20 @@ public:
     // What a device received after a sequence number, oldest first: the "event" objects.
     QJsonArray inputEvents(const QString &pad, qint64 since = 0) const;
     QJsonObject appState(const QString &pad) const;
+    // The device's screen as its panel shows it, 720 x 1280 however it is turned.
+    QImage screen(const QString &pad) const;
     void openApp(const QString &pad, const QString &app) const;
+    // Turns the device's screen; in quarter turns, 0 to 3.
+    void rotate(const QString &pad, int rotation) const;
+    // What GET /admin/stats tells of the connected session with a device; empty while there is none.
+    QJsonObject sessionStats(const QString &pad) const;
     QString output() const { return QString::fromUtf8(m_output); }
 
 private:
+    // One request; returns the answer's body. Throws StepFailed when there is no answer.
+    QByteArray request(const QString &method, const QString &path, const QJsonObject &body = {},
+        const QJsonObject &headers = {}) const;
+
     QString m_program;
     int m_devices;
     QTemporaryDir m_data;

@@ -147,8 +147,9 @@ int SWDataSource::sendInputString(const char *text, int length)
 
 int SWDataSource::sendPicture(const char *data, int size)
 {
+    // Whole, as a picture has NUL bytes.
     return record(
-        "SWDataSource::sendPicture", std::string(data, static_cast<std::size_t>(size)).c_str(), size);
+        "SWDataSource::sendPicture", '"' + std::string(data, static_cast<std::size_t>(size)) + '"', size);
 }
 
 int SWDataSource::sendAudio(int format, const char *data, int size)

@@ -1,0 +1,111 @@
+#include "device/TurnableWindow.h"
+
+#include "device/DeviceWindowShape.h"
+#include "widgets/DpiScaling.h"
+#include "widgets/OvTitleBarBase.h"
+
+#include <QVBoxLayout>
+
+// Only here are the base's own ways of maximising replaced. The bar makes F11 a click on one of its two
+// buttons.
+TurnableWindow::TurnableWindow(QWidget *parent)
+    : OvWindowBase(parent)
+{
+    disconnect(titleBar(), &OvTitleBarBase::btnMaxClicked, this, &OvWindowBase::onBtnMaxClicked);
+    disconnect(titleBar(), &OvTitleBarBase::btnRestoreClicked, this, &OvWindowBase::onBtnRestoreClicked);
+    connect(titleBar(), &OvTitleBarBase::btnMaxClicked, this, &TurnableWindow::maximize);
+    connect(titleBar(), &OvTitleBarBase::btnRestoreClicked, this, &TurnableWindow::restore);
+    applyContent(DeviceWindowShape::contentSize(m_orientation));
+}
+
+void TurnableWindow::turnTo(ScreenOrientation orientation)
+{
+    if (orientation == m_orientation)
+        return;
+    m_orientation = orientation;
+    if (m_maximized) {
+        // What is restored later stands as the picture does then.
+        const QRect normal = titleBar()->normalGeometry();
+        titleBar()->setNormalGeometry(normal.topLeft(), normal.size().transposed());
+        fillScreen();
+        return;
+    }
+    const QSize turned = DeviceWindowShape::turned(contentSize());
+    applyContent(DeviceWindowShape::fitted(turned, availableGeometry().size()));
+    moveOntoScreen();
+}
+
+void TurnableWindow::applyContent(const QSize &content)
+{
+    const QSize margins(2 * shadowMargin(), 2 * shadowMargin());
+    setMinimumSize(0, 0); // that of the other orientation
+    setAspectRatio(DeviceWindowShape::aspectRatio(content));
+    setContentSize(content);
+    updateWindowSize();
+    setMinimumSize(DeviceWindowShape::smallestContentSize(m_orientation) + margins);
+}
+
+void TurnableWindow::moveOntoScreen()
+{
+    const QPoint margin(shadowMargin(), shadowMargin());
+    const QRect body(pos() + margin, contentSize());
+    const QPoint target = DeviceWindowShape::positionWithin(availableGeometry(), body);
+    if (isVisible() && target != body.topLeft())
+        move(target - margin);
+}
+
+void TurnableWindow::toggleMaximized()
+{
+    if (m_maximized)
+        titleBar()->onBtnRestoreClicked();
+    else
+        titleBar()->onBtnMaxClicked();
+}
+
+void TurnableWindow::maximize()
+{
+    if (m_maximized)
+        return;
+    titleBar()->setNormalGeometry(pos(), contentSize());
+    m_maximizedOrientation = m_orientation;
+    m_maximized = true;
+    setResizeLocked(true);
+    mainLayout()->setContentsMargins(0, 0, 0, 0);
+    fillScreen();
+}
+
+// The window keeps its proportions; without its margins it has nothing transparent at the screen's edges.
+void TurnableWindow::fillScreen()
+{
+    using namespace DeviceWindowShape;
+    const QSize normal = titleBar()->normalGeometry().size();
+    const QSize shape = m_orientation == m_maximizedOrientation ? normal : turned(normal.transposed());
+    const bool isLandscape = m_orientation == ScreenOrientation::Landscape;
+    const QRect target = maximized(
+        availableGeometry(), aspectRatio(shape), isLandscape ? scaled(maximizedLandscapeWidth, this) : 0);
+    setMinimumSize(0, 0);
+    setContentSize(target.size() - QSize(2 * shadowMargin(), 2 * shadowMargin()));
+    setGeometry(target);
+    updateWindowSize();
+}
+
+// Dragging the bar restores as well; the bar gives the position within itself then.
+void TurnableWindow::restore()
+{
+    if (!m_maximized)
+        return;
+    const bool dragged = titleBar()->isDragged();
+    QRect normal = titleBar()->normalGeometry();
+    if (m_orientation != m_maximizedOrientation)
+        normal.setSize(DeviceWindowShape::fitted(normal.size(), availableGeometry().size()));
+    const QPoint margin(shadowMargin(), shadowMargin());
+    const QPoint target = dragged ? pos() + normal.topLeft() - margin : normal.topLeft();
+    m_maximized = false;
+    setResizeLocked(false);
+    setShadowMargin(shadowMargin());
+    setContentSize(normal.size());
+    setGeometry(QRect(target, normal.size() + QSize(2 * margin.x(), 2 * margin.y())));
+    applyContent(normal.size());
+    if (!dragged)
+        moveOntoScreen();
+}

@@ -1,0 +1,249 @@
+#include "widgets/OvMaskTipsDialog.h"
+
+#include <QApplication>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QResizeEvent>
+#include <QVBoxLayout>
+
+namespace {
+
+// Sizes in pixels and colours that make the dialog look as designed.
+namespace Look {
+constexpr int cornerRadius = 8;
+constexpr QRgb mask = qRgba(0, 0, 0, 127);
+constexpr int boxMargin = 16;
+constexpr int boxSpacing = 16;
+constexpr int boxWidth = 320;
+constexpr int distanceFromMask = 16; // at least
+constexpr int titlePixelSize = 18;
+constexpr QRgb titleColor = qRgb(0x30, 0x31, 0x33);
+constexpr int messagePixelSize = 14;
+constexpr QRgb messageColor = qRgb(0x60, 0x62, 0x66);
+constexpr int buttonSpacing = 10;
+constexpr int buttonWidth = 76; // at least
+constexpr int buttonHeight = 32;
+} // namespace Look
+
+QString closeButtonColors()
+{
+    return QStringLiteral("QPushButton { background: #FFFFFF; border: 1px solid #E5E7ED; color: #606266; }"
+                          "QPushButton:hover { background: #F5F7FA; }"
+                          "QPushButton:pressed { background: #E5E7ED; }"
+                          "QPushButton:focus { border-color: #606266; }");
+}
+
+QString confirmButtonColors()
+{
+    return QStringLiteral("QPushButton { background: #FF9B7A; border: 1px solid #FF9B7A; color: #FFFFFF; }"
+                          "QPushButton:hover { background: #FFAB8F; }"
+                          "QPushButton:pressed { background: #F0805B; }"
+                          "QPushButton:focus { border-color: #D9663F; }");
+}
+
+QLabel *createLabel(QWidget *parent, const QString &objectName, int pixelSize, QRgb color)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(objectName);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    QFont font = label->font();
+    font.setPixelSize(pixelSize);
+    label->setFont(font);
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, QColor::fromRgb(color));
+    label->setPalette(palette);
+    return label;
+}
+
+} // namespace
+
+OvMaskTipsDialog::OvMaskTipsDialog(QWidget *parent)
+    : QDialog(parent)
+    , m_box(new QFrame(this))
+    , m_titleLabel(createLabel(m_box, QStringLiteral("titleLabel"), Look::titlePixelSize, Look::titleColor))
+    , m_messageLabel(
+          createLabel(m_box, QStringLiteral("messageLabel"), Look::messagePixelSize, Look::messageColor))
+    , m_closeButton(createButton(QStringLiteral("closeButton"), closeButtonColors()))
+    , m_confirmButton(createButton(QStringLiteral("confirmButton"), confirmButtonColors()))
+{
+    setWindowFlags(Qt::FramelessWindowHint); // with a parent no window of its own
+    setWindowModality(Qt::WindowModal);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_TranslucentBackground, isWindow());
+    setAttribute(Qt::WA_NoMousePropagation);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::ArrowCursor);
+    hide(); // a child would be shown along with its parent
+    createBox();
+    setTexts();
+    if (parent)
+        parent->installEventFilter(this);
+
+    connect(m_closeButton, &QPushButton::clicked, this, &OvMaskTipsDialog::reject);
+    connect(m_confirmButton, &QPushButton::clicked, this, &OvMaskTipsDialog::confirm);
+    connect(
+        qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *focused) { keepFocus(focused); });
+}
+
+OvMaskTipsDialog::~OvMaskTipsDialog() = default;
+
+QPushButton *OvMaskTipsDialog::createButton(const QString &objectName, const QString &colors)
+{
+    auto *button = new QPushButton(m_box);
+    button->setObjectName(objectName);
+    button->setMinimumWidth(Look::buttonWidth);
+    button->setFixedHeight(Look::buttonHeight);
+    button->setCursor(Qt::PointingHandCursor);
+    button->setStyleSheet(
+        colors + QStringLiteral("QPushButton { border-radius: 4px; font-size: 14px; padding: 0 12px; }"));
+    return button;
+}
+
+void OvMaskTipsDialog::createBox()
+{
+    m_box->setObjectName(QStringLiteral("box"));
+    m_box->setStyleSheet(
+        QStringLiteral("QFrame#box { background: white; border-radius: %1px; }").arg(Look::cornerRadius));
+    m_box->setMaximumWidth(Look::boxWidth);
+    m_confirmButton->setDefault(true);
+
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(Look::buttonSpacing);
+    buttons->addStretch();
+    buttons->addWidget(m_closeButton);
+    buttons->addWidget(m_confirmButton);
+
+    auto *content = new QVBoxLayout(m_box);
+    content->setSpacing(Look::boxSpacing);
+    content->setContentsMargins(Look::boxMargin, Look::boxMargin, Look::boxMargin, Look::boxMargin);
+    content->addWidget(m_titleLabel);
+    content->addWidget(m_messageLabel);
+    content->addLayout(buttons);
+
+    // The box takes the width that there is, up to its own.
+    auto *row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(m_box, 1);
+    row->addStretch();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(
+        Look::distanceFromMask, Look::distanceFromMask, Look::distanceFromMask, Look::distanceFromMask);
+    layout->addStretch();
+    layout->addLayout(row);
+    layout->addStretch();
+}
+
+void OvMaskTipsDialog::setTexts()
+{
+    m_titleLabel->setText(tr("Hints"));
+    m_closeButton->setText(tr("Close"));
+    m_confirmButton->setText(tr("Confirm"));
+}
+
+void OvMaskTipsDialog::setText(const QString &text)
+{
+    m_messageLabel->setText(text);
+}
+
+QString OvMaskTipsDialog::text() const
+{
+    return m_messageLabel->text();
+}
+
+void OvMaskTipsDialog::reject()
+{
+    emit sigCancelBtnClicked();
+    QDialog::reject();
+}
+
+void OvMaskTipsDialog::confirm()
+{
+    emit sigConfirmBtnClicked();
+    accept();
+}
+
+void OvMaskTipsDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
+    QDialog::changeEvent(event);
+}
+
+// A window behind a modal dialog has no shortcuts.
+bool OvMaskTipsDialog::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
+    return QDialog::event(event);
+}
+
+// Keys that mean nothing here mean nothing to what is covered either.
+void OvMaskTipsDialog::keyPressEvent(QKeyEvent *event)
+{
+    QDialog::keyPressEvent(event);
+    event->accept();
+}
+
+bool OvMaskTipsDialog::focusNextPrevChild(bool)
+{
+    QPushButton *other = m_confirmButton->hasFocus() ? m_closeButton : m_confirmButton;
+    other->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void OvMaskTipsDialog::keepFocus(QWidget *focused)
+{
+    if (!isVisible() || !focused || focused->window() != window())
+        return;
+    for (QWidget *holder = focused; holder; holder = holder->parentWidget()) {
+        if (qobject_cast<OvMaskTipsDialog *>(holder))
+            return; // this one or one above it
+    }
+    m_confirmButton->setFocus();
+}
+
+// The mask keeps its distance from the edges of the window.
+bool OvMaskTipsDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == parent() && event->type() == QEvent::Resize && isVisible() && !isWindow()) {
+        const auto *resized = static_cast<QResizeEvent *>(event);
+        const QSize target = size() + resized->size() - resized->oldSize();
+        if (minimumSize() == maximumSize())
+            setFixedSize(target);
+        else
+            resize(target);
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+// What a dialog does here is to look for a place on the screen; a mask has its place.
+void OvMaskTipsDialog::showEvent(QShowEvent *event)
+{
+    if (isWindow())
+        QDialog::showEvent(event);
+    raise();
+    m_confirmButton->setFocus();
+}
+
+void OvMaskTipsDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible())
+        m_focusBefore = window()->focusWidget();
+    QDialog::setVisible(visible);
+    if (!visible && m_focusBefore && m_focusBefore->isVisible())
+        m_focusBefore->setFocus();
+}
+
+void OvMaskTipsDialog::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgba(Look::mask));
+    painter.drawRoundedRect(rect(), Look::cornerRadius, Look::cornerRadius);
+}

@@ -1,0 +1,77 @@
+#include <QColor>
+#include <QFile>
+#include <QIcon>
+#include <QImage>
+#include <QSvgRenderer>
+#include <QTest>
+
+// The pictures that the widgets and windows take from the resources.
+class TestIcons : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void icons_data();
+    void icons();
+    void family();
+    void standby();
+};
+
+void TestIcons::icons_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const char *path : {":/icon/svg/emitHome.svg", ":/icon/svg/volumeUp.svg",
+             ":/icon/svg/volumeDown.svg", ":/icon/svg/snapshot.svg", ":icon/svg/switchScreen.svg",
+             ":icon/svg/key.svg", ":icon/svg/useLastConfig.svg", ":/icon/svg/switchScreen.svg",
+             ":/icon/svg/key.svg", ":/icon/svg/useLastConfig.svg", ":/icon/svg/arrowDown.svg"})
+        QTest::newRow(path) << QString::fromLatin1(path);
+}
+
+void TestIcons::icons()
+{
+    QFETCH(QString, path);
+    QSvgRenderer drawing(path);
+    QVERIFY(drawing.isValid());
+    QCOMPARE(drawing.viewBox(), QRect(0, 0, 24, 24));
+    const QImage image = QIcon(path).pixmap(104, 104).toImage();
+    QCOMPARE(image.size(), QSize(104, 104));
+    int painted = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const bool isPainted = image.pixelColor(x, y).alpha() > 0;
+            painted += isPainted ? 1 : 0;
+            // Nothing touches the border, where it would be cut.
+            QVERIFY(!isPainted || (x > 4 && y > 4 && x < 99 && y < 99));
+        }
+    }
+    QVERIFY(painted > 250);
+    QVERIFY(painted < 104 * 104 / 3); // lines, not areas
+}
+
+// One pen for all, so that they look as one set.
+void TestIcons::family()
+{
+    for (const char *name :
+        {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key", "useLastConfig"}) {
+        QFile file(QStringLiteral(":/icon/svg/%1.svg").arg(QLatin1String(name)));
+        QVERIFY2(file.open(QFile::ReadOnly), name);
+        QVERIFY2(file.readAll().contains(
+                     "fill=\"none\" stroke=\"#E5E7ED\" stroke-width=\"1.5\" stroke-linecap=\"round\" "
+                     "stroke-linejoin=\"round\">"),
+            name);
+    }
+}
+
+// Shown with 93 pixels, also on screens scaled by 2 and more.
+void TestIcons::standby()
+{
+    const QImage image(QStringLiteral(":/icon/image/standby.png"));
+    QVERIFY(image.width() >= 280);
+    QCOMPARE(image.width(), image.height());
+    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(image.pixelColor(image.width() - 1, image.height() - 1).alpha(), 0);
+    QCOMPARE(image.pixelColor(image.rect().center()).alpha(), 255);
+}
+
+QTEST_MAIN(TestIcons)
+#include "tst_icons.moc"
