@@ -58,6 +58,8 @@ build() {
     [ $# -gt 0 ] && targets=(--target "$@")
     say "Configuring build/$preset"
     mkdir -p build
+    # What was compiled before, here or in another clone, is not compiled again.
+    command -v ccache >/dev/null && cmake_settings+=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
     cmake --preset "$preset" ${cmake_settings[@]+"${cmake_settings[@]}"} >"build/configure-$preset.log" 2>&1 \
         || { cat "build/configure-$preset.log" >&2; fail "configuring failed"; }
     say "Building build/$preset (the first time takes some minutes)"

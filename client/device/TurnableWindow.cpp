@@ -6,6 +6,14 @@
 
 #include <QVBoxLayout>
 
+namespace {
+
+// A window system that does not follow must not be asked for ever, and the user may move the window.
+constexpr int MostPlacings = 5;
+constexpr int PlacingMs = 1000;
+
+} // namespace
+
 // Only here are the base's own ways of maximising replaced. The bar makes F11 a click on one of its two
 // buttons.
 TurnableWindow::TurnableWindow(QWidget *parent)
@@ -51,8 +59,35 @@ void TurnableWindow::moveInto(const QRect &area)
     const QPoint margin(shadowMargin(), shadowMargin());
     const QRect body(pos() + margin, contentSize());
     const QPoint target = DeviceWindowShape::positionWithin(area, body);
-    if (isVisible() && target != body.topLeft())
-        move(target - margin);
+    if (!isVisible() || target == body.topLeft())
+        return;
+    m_placings = 0;
+    move(target - margin);
+}
+
+void TurnableWindow::place(const QRect &geometry)
+{
+    m_placed = geometry;
+    m_placings = MostPlacings;
+    m_sincePlaced.start();
+    setGeometry(geometry);
+}
+
+void TurnableWindow::moveEvent(QMoveEvent *event)
+{
+    const bool mayPlace = m_placings > 0 && m_sincePlaced.elapsed() < PlacingMs && !titleBar()->isDragged();
+    if (!mayPlace || pos() == m_placed.topLeft()) {
+        OvWindowBase::moveEvent(event);
+        return;
+    }
+    --m_placings;
+    setGeometry(m_placed);
+}
+
+void TurnableWindow::mousePressEvent(QMouseEvent *event)
+{
+    m_placings = 0;
+    OvWindowBase::mousePressEvent(event);
 }
 
 void TurnableWindow::toggleMaximized()
@@ -86,7 +121,7 @@ void TurnableWindow::fillScreen()
         availableGeometry(), aspectRatio(shape), isLandscape ? scaled(maximizedLandscapeWidth, this) : 0);
     setMinimumSize(0, 0);
     setContentSize(target.size() - QSize(2 * shadowMargin(), 2 * shadowMargin()));
-    setGeometry(target);
+    place(target);
     updateWindowSize();
 }
 
@@ -105,7 +140,7 @@ void TurnableWindow::restore()
     setResizeLocked(false);
     setShadowMargin(shadowMargin());
     setContentSize(normal.size());
-    setGeometry(QRect(target, normal.size() + QSize(2 * margin.x(), 2 * margin.y())));
+    place({target, normal.size() + QSize(2 * margin.x(), 2 * margin.y())});
     applyContent(normal.size());
     if (!dragged)
         moveInto(availableGeometry());

@@ -3,6 +3,8 @@
 #include "stream/ScreenOrientation.h"
 #include "widgets/OvWindowBase.h"
 
+#include <QElapsedTimer>
+#include <QRect>
 #include <QSize>
 
 // A window around a device's picture, which stands upright or lies on its side; the window turns with it, as
@@ -26,14 +28,23 @@ protected:
     void turnTo(ScreenOrientation orientation);
     void toggleMaximized();
 
+    void mousePressEvent(QMouseEvent *event) override;
+    void moveEvent(QMoveEvent *event) override;
+
 private:
     void maximize();
     void restore();
     void fillScreen();
     void applyContent(const QSize &content);
     void moveInto(const QRect &area);
+    // Puts the window where it belongs, also against late answers of the window system to what was asked of
+    // it before: they would move it back.
+    void place(const QRect &geometry);
 
     ScreenOrientation m_orientation = ScreenOrientation::Portrait;
     ScreenOrientation m_maximizedOrientation = ScreenOrientation::Portrait; // when it was maximised
     bool m_maximized = false;
+    QRect m_placed;
+    QElapsedTimer m_sincePlaced;
+    int m_placings = 0; // how often it may be put there again
 };

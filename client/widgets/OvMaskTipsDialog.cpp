@@ -212,13 +212,26 @@ bool OvMaskTipsDialog::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == parent() && event->type() == QEvent::Resize && isVisible() && !isWindow()) {
         const auto *resized = static_cast<QResizeEvent *>(event);
-        const QSize target = size() + resized->size() - resized->oldSize();
-        if (minimumSize() == maximumSize())
-            setFixedSize(target);
-        else
-            resize(target);
+        setMaskSize(size() + resized->size() - resized->oldSize());
     }
     return QDialog::eventFilter(watched, event);
+}
+
+void OvMaskTipsDialog::setMaskSize(const QSize &size)
+{
+    if (minimumSize() == maximumSize())
+        setFixedSize(size);
+    else
+        resize(size);
+}
+
+// At a fractional scale the window may be a pixel smaller than its content was meant to be.
+void OvMaskTipsDialog::takeRoundingOff()
+{
+    const QSize room = parentWidget()->size() - 2 * QSize(x(), y());
+    const QSize over = size() - room;
+    if (over.width() <= 1 && over.height() <= 1)
+        setMaskSize(size().boundedTo(room));
 }
 
 // What a dialog does here is to look for a place on the screen; a mask has its place.
@@ -226,6 +239,8 @@ void OvMaskTipsDialog::showEvent(QShowEvent *event)
 {
     if (isWindow())
         QDialog::showEvent(event);
+    else
+        takeRoundingOff();
     raise();
     m_confirmButton->setFocus();
 }

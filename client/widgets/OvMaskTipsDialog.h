@@ -60,6 +60,8 @@ private:
     void confirm();
     void endWithItsWindow();
     void keepFocus(QWidget *focused);
+    void setMaskSize(const QSize &size);
+    void takeRoundingOff();
 
     QFrame *m_box; // children
     QLabel *m_titleLabel;

@@ -3,9 +3,11 @@
 #include "api/Fields.h"
 #include "api/SignInStore.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace orvane::cloud {
@@ -25,6 +27,7 @@ struct ApiAnswer
 {
     QJsonObject data;
     std::string png; // not empty: PNG bytes
+    std::optional<QJsonArray> list = std::nullopt; // set: the envelope's data is this list
 };
 
 } // namespace orvane::cloud

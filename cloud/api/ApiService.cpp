@@ -11,6 +11,7 @@ ApiService::ApiService(ServiceData &data, DeviceFleet &fleet, const HttpServerOp
     , m_deviceApi(data, fleet)
     , m_deviceGroupApi(data)
     , m_clientApi(data)
+    , m_keyMapApi(data)
     , m_adminApi(data, fleet, m_expiryWatch)
     , m_server(options, [this](const HttpRequest &request) { return m_router.handle(request); })
 {
@@ -18,6 +19,7 @@ ApiService::ApiService(ServiceData &data, DeviceFleet &fleet, const HttpServerOp
     m_deviceApi.addRoutes(m_router);
     m_deviceGroupApi.addRoutes(m_router);
     m_clientApi.addRoutes(m_router);
+    m_keyMapApi.addRoutes(m_router);
     m_adminApi.addRoutes(m_router);
 }
 

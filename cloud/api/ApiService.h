@@ -6,6 +6,7 @@
 #include "api/DeviceGroupApi.h"
 #include "api/ExpiryWatch.h"
 #include "api/HttpServer.h"
+#include "api/KeyMapApi.h"
 #include "api/Router.h"
 #include "api/UserApi.h"
 
@@ -34,6 +35,7 @@ private:
     DeviceApi m_deviceApi;
     DeviceGroupApi m_deviceGroupApi;
     ClientApi m_clientApi;
+    KeyMapApi m_keyMapApi;
     AdminApi m_adminApi;
     HttpServer m_server;
 };

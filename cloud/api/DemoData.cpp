@@ -1,5 +1,6 @@
 #include "api/DemoData.h"
 
+#include "api/DemoSchemes.h"
 #include "api/ServiceData.h"
 
 #include <algorithm>
@@ -107,6 +108,7 @@ void prepareDemoData(ServiceData &data, std::optional<int> deviceCount)
     if (deviceCount)
         setDeviceCount(data, demo->id, std::clamp(*deviceCount, 0, maxDeviceCount));
     data.groups.seed(demo->id, demoGroups(data, demo->id));
+    data.keyMaps.seed(demo->id, demoSchemes());
 }
 
 } // namespace orvane::cloud

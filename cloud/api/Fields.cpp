@@ -43,6 +43,11 @@ Fields::Fields(QJsonObject values)
     : m_values(std::move(values))
 { }
 
+bool Fields::contains(const char *name) const
+{
+    return m_values.contains(QLatin1String(name));
+}
+
 QJsonValue Fields::required(const char *name) const
 {
     QJsonValue value = m_values.value(QLatin1String(name));

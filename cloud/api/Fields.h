@@ -17,6 +17,7 @@ public:
     Fields() = default;
     explicit Fields(QJsonObject values);
 
+    bool contains(const char *name) const;
     // A text of 1 to maxBytes bytes of UTF-8 without control characters.
     std::string text(const char *name, std::size_t maxBytes = 128) const;
     // The same, or "" when it is missing or empty.

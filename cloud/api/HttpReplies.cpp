@@ -23,7 +23,7 @@ HttpResponse newReply(http::status status)
     return reply;
 }
 
-HttpResponse jsonReply(http::status status, int code, const std::string &message, const QJsonObject &data)
+HttpResponse jsonReply(http::status status, int code, const std::string &message, const QJsonValue &data)
 {
     const QJsonObject envelope{{QStringLiteral("code"), code},
         {QStringLiteral("msg"), QString::fromStdString(message)}, {QStringLiteral("data"), data}};
@@ -36,7 +36,7 @@ HttpResponse jsonReply(http::status status, int code, const std::string &message
 
 } // namespace
 
-HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJsonObject &data)
+HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJsonValue &data)
 {
     return jsonReply(http::status::ok, static_cast<int>(code), message, data);
 }
@@ -44,7 +44,8 @@ HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJson
 HttpResponse answerReply(const ApiAnswer &answer)
 {
     if (answer.png.empty())
-        return envelopeReply(ApiCode::Done, "success", answer.data);
+        return envelopeReply(
+            ApiCode::Done, "success", answer.list ? QJsonValue(*answer.list) : QJsonValue(answer.data));
     HttpResponse reply = newReply(http::status::ok);
     reply.set(http::field::content_type, "image/png");
     // A link names one state of the screen, so the page need not fetch it again.
@@ -55,7 +56,7 @@ HttpResponse answerReply(const ApiAnswer &answer)
 
 HttpResponse errorReply(http::status status, const std::string &message)
 {
-    return jsonReply(status, static_cast<int>(status), message, {});
+    return jsonReply(status, static_cast<int>(status), message, QJsonObject());
 }
 
 HttpResponse optionsReply(const std::string &methods)

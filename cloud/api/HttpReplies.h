@@ -12,8 +12,8 @@ namespace orvane::cloud {
 
 // The replies of the API, complete but for what depends on the connection (keep-alive, version). Any thread.
 
-// {"code", "msg", "data"} with HTTP status 200.
-HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJsonObject &data = {});
+// {"code", "msg", "data"} with HTTP status 200. `data`: an object or an array.
+HttpResponse envelopeReply(ApiCode code, const std::string &message, const QJsonValue &data = QJsonObject());
 // The handler's answer: an envelope, or the picture itself.
 HttpResponse answerReply(const ApiAnswer &answer);
 // Something is wrong with the HTTP request itself. The body is an envelope whose code is the status.

@@ -7,12 +7,31 @@
 
 namespace orvane::cloud {
 
+namespace {
+
+std::string randomBytes(std::size_t count)
+{
+    std::string random(count, '\0');
+    if (RAND_bytes(reinterpret_cast<unsigned char *>(random.data()), static_cast<int>(count)) != 1)
+        throw std::runtime_error("the system's random generator failed");
+    return random;
+}
+
+} // namespace
+
 std::string randomToken(std::size_t bytes)
 {
-    std::string random(bytes, '\0');
-    if (RAND_bytes(reinterpret_cast<unsigned char *>(random.data()), static_cast<int>(bytes)) != 1)
-        throw std::runtime_error("the system's random generator failed");
-    return toHex(random);
+    return toHex(randomBytes(bytes));
+}
+
+std::string randomCode(std::size_t length)
+{
+    constexpr std::string_view characters = "23456789ABCDEFGHJKLMNPQRSTUVWXYZ";
+    static_assert(256 % characters.size() == 0, "every character is as likely as any other");
+    std::string code = randomBytes(length);
+    for (char &character : code)
+        character = characters[static_cast<unsigned char>(character) % characters.size()];
+    return code;
 }
 
 std::string toHex(std::string_view bytes)

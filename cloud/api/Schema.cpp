@@ -80,6 +80,25 @@ constexpr const char *schemaSteps[] = {
         bytes INTEGER NOT NULL
     );
     )",
+    R"(
+    CREATE TABLE key_map_schemes (
+        id INTEGER PRIMARY KEY AUTOINCREMENT,
+        map_id TEXT NOT NULL UNIQUE,
+        user_id INTEGER NOT NULL REFERENCES users(id) ON DELETE CASCADE,
+        name TEXT NOT NULL,
+        keys TEXT NOT NULL,
+        landscape INTEGER NOT NULL,
+        show_keys INTEGER NOT NULL,
+        show_notes INTEGER NOT NULL,
+        opacity_percent INTEGER NOT NULL,
+        key_size INTEGER NOT NULL
+    );
+    CREATE INDEX key_map_schemes_of_user ON key_map_schemes(user_id);
+    -- Users whose first schemes have been put in.
+    CREATE TABLE seeded_key_map_schemes (
+        user_id INTEGER PRIMARY KEY REFERENCES users(id) ON DELETE CASCADE
+    );
+    )",
 };
 constexpr int schemaVersion = static_cast<int>(std::size(schemaSteps));
 

@@ -31,6 +31,7 @@ ServiceData::ServiceData(const std::string &folder, Clocks serviceClocks)
     , groups(database, clocks)
     , sessions(database, clocks)
     , releases(database)
+    , keyMaps(database)
 { }
 
 } // namespace orvane::cloud

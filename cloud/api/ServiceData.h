@@ -4,6 +4,7 @@
 #include "api/Database.h"
 #include "api/DeviceGroupStore.h"
 #include "api/DeviceStore.h"
+#include "api/KeyMapStore.h"
 #include "api/ReleaseStore.h"
 #include "api/SignInStore.h"
 #include "api/StreamSessionStore.h"
@@ -28,6 +29,7 @@ struct ServiceData
     DeviceGroupStore groups;
     StreamSessionStore sessions;
     ReleaseStore releases;
+    KeyMapStore keyMaps;
 };
 
 } // namespace orvane::cloud

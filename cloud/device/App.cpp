@@ -30,6 +30,8 @@ void App::textTyped(const QString &)
 { }
 void App::cameraPicture(const QImage &, QSize)
 { }
+void App::systemChanged()
+{ }
 void App::resume(TimePoint)
 { }
 void App::pause()

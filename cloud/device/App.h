@@ -33,6 +33,18 @@ struct KeyPress
     bool control = false;
 };
 
+// What an app may know about the device that it runs on.
+struct SystemState
+{
+    QString deviceName;
+    QString padCode;
+    QString version; // of the device's software
+    QSize portraitScreen; // pixels
+    int rotation = 0; // quarter turns, 0 to 3
+    int volume = 0; // 0 to loudest
+    int loudest = 0;
+};
+
 // A full-screen app of a virtual device. It draws the whole screen; status and navigation bar are drawn over
 // it and take the touches there. Used by the device's thread only, owned by Shell.
 class App
@@ -43,6 +55,9 @@ public:
     {
         std::function<void(const QRect &)> invalidate; // content coordinates
         std::function<void(const QString &)> copyText; // to the user's clipboard
+        std::function<SystemState()> system;
+        std::function<void(int rotation)> turnScreen; // calls resize() before it returns
+        std::function<void(int direction)> stepVolume; // 1 or -1; calls systemChanged()
     };
 
     explicit App(Host host);
@@ -68,6 +83,8 @@ public:
     virtual void keyPressed(const KeyPress &key);
     // Printable text, with '\n', '\t', '\b' (Backspace) and 0x7f (Delete); no other control characters.
     virtual void textTyped(const QString &text);
+    // What system() says is different now; only while the app is in front.
+    virtual void systemChanged();
 
     // Whether the app moves by itself from the moment it comes to the front.
     virtual bool isAnimated() const { return false; }
@@ -93,6 +110,9 @@ protected:
     void invalidate(const QRect &rect) { m_host.invalidate(rect); }
     void invalidateAll() { m_host.invalidate(QRect({}, m_screen)); }
     void copyText(const QString &text) { m_host.copyText(text); }
+    SystemState system() const { return m_host.system(); }
+    void turnScreen(int rotation) { m_host.turnScreen(rotation); }
+    void stepVolume(int direction) { m_host.stepVolume(direction); }
 
 private:
     const Host m_host;

@@ -1,18 +1,20 @@
 #include "device/AppCatalog.h"
 
+#include "device/ArenaApp.h"
 #include "device/CameraApp.h"
 #include "device/LatencyApp.h"
 #include "device/ListApp.h"
 #include "device/NotesApp.h"
 #include "device/PaintApp.h"
+#include "device/SettingsApp.h"
 #include "device/VideoApp.h"
 
 namespace orvane::cloud {
 
 const std::vector<AppKind> &installedApps()
 {
-    static const std::vector<AppKind> apps{
-        AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video, AppKind::Latency, AppKind::Camera};
+    static const std::vector<AppKind> apps{AppKind::Paint, AppKind::Notes, AppKind::List, AppKind::Video,
+        AppKind::Latency, AppKind::Camera, AppKind::Arena, AppKind::Settings};
     return apps;
 }
 
@@ -33,6 +35,10 @@ QString appName(AppKind kind)
         return QStringLiteral("Latency");
     case AppKind::Camera:
         return QStringLiteral("Camera");
+    case AppKind::Arena:
+        return QStringLiteral("Arena");
+    case AppKind::Settings:
+        return QStringLiteral("Settings");
     }
     return {};
 }
@@ -65,6 +71,10 @@ std::unique_ptr<App> makeApp(AppKind kind, App::Host host)
         return std::make_unique<LatencyApp>(std::move(host));
     case AppKind::Camera:
         return std::make_unique<CameraApp>(std::move(host));
+    case AppKind::Arena:
+        return std::make_unique<ArenaApp>(std::move(host));
+    case AppKind::Settings:
+        return std::make_unique<SettingsApp>(std::move(host));
     case AppKind::Home:
         break;
     }

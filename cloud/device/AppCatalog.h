@@ -18,6 +18,8 @@ enum class AppKind {
     Video,
     Latency,
     Camera,
+    Arena,
+    Settings,
 };
 
 // The apps that the home screen offers, in its order.

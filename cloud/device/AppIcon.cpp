@@ -143,6 +143,49 @@ void drawCamera(QPainter &painter)
     painter.drawEllipse(QPointF(73, 41), 3, 3);
 }
 
+void drawArena(QPainter &painter)
+{
+    drawPlate(painter, 0xFF4A4B9A, 0xFF151B45);
+    painter.setBrush(QColor(0xFFFFD6AA));
+    painter.drawEllipse(QPointF(66, 40), 13, 13);
+    painter.setBrush(QColor(0xFF6B5C9E));
+    painter.drawPolygon(QPolygonF() << QPointF(6, 62) << QPointF(30, 42) << QPointF(50, 58) << QPointF(72, 46)
+                                    << QPointF(94, 62));
+    painter.setBrush(QColor(0xFF2C3A6B));
+    painter.drawRect(QRectF(5, 62, 90, 14));
+    painter.setPen(QPen(QColor(theme::Coral), 5, Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QPointF(50, 52), 22, 22);
+    painter.save();
+    painter.translate(50, 52);
+    for (int side = 0; side < 4; ++side) {
+        painter.drawLine(QPointF(0, -32), QPointF(0, -14));
+        painter.rotate(90);
+    }
+    painter.restore();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(theme::Paper));
+    painter.drawEllipse(QPointF(50, 52), 4, 4);
+}
+
+void drawSettings(QPainter &painter)
+{
+    drawPlate(painter, 0xFF9AA8C2, 0xFF4A5875);
+    painter.save();
+    painter.translate(50, 50);
+    painter.setBrush(QColor(theme::Paper));
+    for (int tooth = 0; tooth < 8; ++tooth) {
+        painter.drawRoundedRect(QRectF(-6, -34, 12, 16), 4, 4);
+        painter.rotate(45);
+    }
+    painter.restore();
+    painter.drawEllipse(QPointF(50, 50), 25, 25);
+    painter.setBrush(QColor(0xFF5A6885));
+    painter.drawEllipse(QPointF(50, 50), 13, 13);
+    painter.setBrush(QColor(theme::Coral));
+    painter.drawEllipse(QPointF(50, 50), 6, 6);
+}
+
 } // namespace
 
 void drawAppIcon(QPainter &painter, AppKind kind, const QRectF &square)
@@ -169,6 +212,12 @@ void drawAppIcon(QPainter &painter, AppKind kind, const QRectF &square)
         break;
     case AppKind::Camera:
         drawCamera(painter);
+        break;
+    case AppKind::Arena:
+        drawArena(painter);
+        break;
+    case AppKind::Settings:
+        drawSettings(painter);
         break;
     case AppKind::Home:
         break;

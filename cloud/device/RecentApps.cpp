@@ -13,6 +13,7 @@ namespace {
 
 constexpr int TitleHeight = 58; // icon and name above each picture
 constexpr int Gap = 28;
+constexpr std::size_t FewCards = 6; // up to here they are in rows of three, then in rows of four
 
 bool isLandscape(QSize screen)
 {
@@ -25,9 +26,12 @@ RecentApps::RecentApps()
     : m_closeAll(QStringLiteral("Close all"))
 { }
 
-QSize RecentApps::pictureSize(QSize screen)
+QSize RecentApps::pictureSize(QSize screen, std::size_t cardCount)
 {
-    return isLandscape(screen) ? QSize(272, 153) : QSize(189, 336);
+    if (isLandscape(screen)) {
+        return {272, 153};
+    }
+    return cardCount <= FewCards ? QSize(189, 336) : QSize(146, 260);
 }
 
 void RecentApps::show(std::vector<Card> cards, QSize screen)
@@ -49,8 +53,8 @@ void RecentApps::hide()
 
 QRect RecentApps::pictureRect(std::size_t index) const
 {
-    const QSize size = pictureSize(m_screen);
-    const int perRow = 3;
+    const QSize size = pictureSize(m_screen, m_cards.size());
+    const int perRow = m_cards.size() <= FewCards ? 3 : 4;
     const auto count = static_cast<int>(m_cards.size());
     const int rows = (count + perRow - 1) / perRow;
     const int row = static_cast<int>(index) / perRow;
@@ -119,8 +123,9 @@ void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip) const
     for (std::size_t i = 0; i < m_cards.size(); ++i) {
         const QRect rect = pictureRect(i);
         drawAppIcon(painter, m_cards[i].kind, QRectF(rect.left() + 2, rect.top() - 48, 38, 38));
-        theme::drawLine(painter, QRectF(rect.left() + 52, rect.top() - 52, rect.width() - 52, 46),
-            Qt::AlignLeft, theme::font(25), QColor(theme::Paper), appName(m_cards[i].kind));
+        theme::drawLine(painter, QRectF(rect.left() + 50, rect.top() - 52, rect.width() - 50, 46),
+            Qt::AlignLeft, theme::font(rect.width() < 180 ? 21 : 25), QColor(theme::Paper),
+            appName(m_cards[i].kind));
         QPainterPath outline;
         outline.addRoundedRect(rect, 20, 20);
         painter.save();

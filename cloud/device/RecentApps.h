@@ -30,8 +30,8 @@ public:
     RecentApps();
 
     bool isShown() const { return m_shown; }
-    // Size of a card's picture for that screen.
-    static QSize pictureSize(QSize screen);
+    // Size of a card's picture for that screen when there are so many cards. Up to eight fit.
+    static QSize pictureSize(QSize screen, std::size_t cardCount);
     void show(std::vector<Card> cards, QSize screen);
     void hide();
 

@@ -40,7 +40,32 @@ App::Host Shell::hostFor(AppKind kind)
         }
     };
     host.copyText = [this](const QString &text) { m_setup.copyText(text); };
+    host.system = [this] { return systemState(); };
+    host.turnScreen = [this](int rotation) { m_setup.turnScreen(rotation); };
+    host.stepVolume = [this](int direction) { stepVolume(direction); };
     return host;
+}
+
+SystemState Shell::systemState() const
+{
+    SystemState state;
+    state.deviceName = m_setup.deviceName;
+    state.padCode = m_setup.padCode;
+    state.version = QStringLiteral(ORVANE_VERSION);
+    state.portraitScreen = m_surface.portraitSize();
+    state.rotation = m_setup.rotation();
+    state.volume = m_volume.level();
+    state.loudest = VolumePanel::MaxLevel;
+    return state;
+}
+
+void Shell::stepVolume(int direction)
+{
+    m_volume.step(direction, m_now);
+    m_surface.invalidate(m_volume.area(m_surface.contentSize()));
+    if (!m_recents.isShown()) {
+        front().systemChanged();
+    }
 }
 
 App *Shell::find(AppKind kind)
@@ -127,6 +152,7 @@ QJsonObject Shell::describe() const
 
 void Shell::advance(TimePoint now)
 {
+    m_now = now;
     if (m_boot.isActive()) {
         if (m_boot.tick(now)) {
             m_surface.invalidate(m_boot.animatedArea(m_surface.contentSize()));
@@ -280,7 +306,7 @@ void Shell::cancelTouches()
 
 // --- Keys and text ---
 
-bool Shell::systemKey(int code, TimePoint now)
+bool Shell::systemKey(int code)
 {
     switch (code) {
     case KEY_HOMEPAGE:
@@ -294,17 +320,16 @@ bool Shell::systemKey(int code, TimePoint now)
         return true;
     case KEY_VOLUMEUP:
     case KEY_VOLUMEDOWN:
-        m_volume.step(code == KEY_VOLUMEUP ? 1 : -1, now);
-        m_surface.invalidate(m_volume.area(m_surface.contentSize()));
+        stepVolume(code == KEY_VOLUMEUP ? 1 : -1);
         return true;
     default:
         return false;
     }
 }
 
-void Shell::keyPressed(const KeyPress &key, TimePoint now)
+void Shell::keyPressed(const KeyPress &key)
 {
-    if (m_boot.isActive() || systemKey(key.code, now) || m_recents.isShown()) {
+    if (m_boot.isActive() || systemKey(key.code) || m_recents.isShown()) {
         return;
     }
     front().keyPressed(key);
@@ -354,8 +379,9 @@ void Shell::showRecents()
     cancelTouches();
     leaveFront();
     std::vector<RecentApps::Card> cards;
+    const QSize picture = RecentApps::pictureSize(m_surface.contentSize(), m_order.size());
     for (const AppKind kind : m_order) {
-        cards.push_back({kind, pictureOf(*find(kind))});
+        cards.push_back({kind, pictureOf(*find(kind), picture)});
     }
     m_recents.show(std::move(cards), m_surface.contentSize());
     m_surface.invalidateAll();
@@ -387,10 +413,9 @@ void Shell::choose(RecentApps::Choice choice)
     }
 }
 
-QImage Shell::pictureOf(App &app) const
+QImage Shell::pictureOf(App &app, QSize size) const
 {
     const QSize screen = m_surface.contentSize();
-    const QSize size = RecentApps::pictureSize(screen);
     QImage picture(size, QImage::Format_RGB32);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -30,6 +30,9 @@ public:
         int batteryPercent = 100; // shown in the status bar
         std::function<QDateTime()> wallClock;
         std::function<void(const QString &)> copyText;
+        QString padCode;
+        std::function<int()> rotation; // quarter turns, 0 to 3
+        std::function<void(int)> turnScreen; // to so many quarter turns; calls resized()
     };
 
     // `surface` must outlive the shell.
@@ -44,7 +47,7 @@ public:
     void cancelTouch(int id);
     // No app has fingers any more; those that are still on the screen are ignored until they leave it.
     void cancelTouches();
-    void keyPressed(const KeyPress &key, TimePoint now);
+    void keyPressed(const KeyPress &key);
     // Text as App::textTyped takes it.
     void textTyped(const QString &text);
 
@@ -75,6 +78,8 @@ private:
     const App &front() const;
     App *find(AppKind kind);
     App::Host hostFor(AppKind kind);
+    SystemState systemState() const;
+    void stepVolume(int direction);
     Target targetOf(const Pointer &pointer);
     void touchUp(Target target, const Pointer &pointer);
     void bringToFront(AppKind kind);
@@ -85,10 +90,10 @@ private:
     void hideRecents();
     void choose(RecentApps::Choice choice);
     void closeAll();
-    bool systemKey(int code, TimePoint now);
+    bool systemKey(int code);
     void readClock(TimePoint now);
     QRect statusBarArea() const;
-    QImage pictureOf(App &app) const;
+    QImage pictureOf(App &app, QSize size) const;
 
     Surface &m_surface;
     const Setup m_setup;
@@ -104,6 +109,7 @@ private:
     std::map<int, Target> m_targets; // by finger
     QDateTime m_wallTime;
     std::optional<TimePoint> m_clockRead;
+    TimePoint m_now; // of the last advance()
 };
 
 } // namespace orvane::cloud

@@ -22,6 +22,7 @@ public:
 
     explicit Surface(QSize portrait);
 
+    QSize portraitSize() const { return m_portrait; }
     QSize contentSize() const { return m_landscape ? m_portrait.transposed() : m_portrait; }
     void setLandscape(bool landscape);
 

@@ -81,7 +81,9 @@ struct VirtualDevice::Impl
                       if (owner.onClipboard) {
                           owner.onClipboard(text.toStdString());
                       }
-                  }})
+                  },
+                  QString::fromStdString(padCode), [this] { return rotation; },
+                  [&owner](int turns) { owner.setRotation(turns); }})
     { }
 
     void paint()
@@ -193,7 +195,7 @@ void VirtualDevice::key(const std::string &sessionKey, int action, int code, boo
     if (action != KeyUp) {
         const bool shiftHeld = held.count(KEY_LEFTSHIFT) + held.count(KEY_RIGHTSHIFT) > 0;
         const bool controlHeld = held.count(KEY_LEFTCTRL) + held.count(KEY_RIGHTCTRL) > 0;
-        d.shell.keyPressed({code, shift || shiftHeld, controlHeld}, time);
+        d.shell.keyPressed({code, shift || shiftHeld, controlHeld});
     }
     if (action == KeyDown && held.size() < MaxHeldKeys) {
         held.insert(code);

@@ -306,12 +306,14 @@ void TestDeviceWindow::turnsWhileMaximised()
         for (int number = 1; number <= turns + 1; ++number) { // ends in landscape
             turn(number);
             const bool portrait = m_view->orientation() == ScreenOrientation::Portrait;
-            waitUntil(QStringLiteral("the window fills the screen after turn %1").arg(number), [&] {
+            const auto fillsTheScreen = [&] {
                 const QSize size = m_window->size();
                 const bool upright = m_view->width() < m_view->height();
                 return upright == portrait && available.contains(m_window->geometry())
                     && (size.height() == available.height() || size.width() == 1300);
-            });
+            };
+            waitUntil(
+                QStringLiteral("the window fills the screen after turn %1").arg(number), fillsTheScreen);
             checkPictureAndTouches(QStringLiteral("maximised, after turn %1").arg(number));
             m_service->rotate(m_pad, portrait ? 0 : 1);
         }

@@ -140,8 +140,8 @@ TEST_F(PersistenceTest, aDatabaseOfTheFirstVersionIsBroughtUpToDate)
     const std::vector<Device> devices = m_data->devices.all();
     {
         const Database::Lock lock = m_data->database.lock();
-        for (const char *table :
-            {"device_group_members", "device_groups", "seeded_groups", "release", "release_files"})
+        for (const char *table : {"device_group_members", "device_groups", "seeded_groups", "release",
+                 "release_files", "key_map_schemes", "seeded_key_map_schemes"})
             m_data->database.execute((std::string("DROP TABLE ") + table).c_str());
         m_data->database.execute("PRAGMA user_version = 1");
     }
@@ -151,6 +151,27 @@ TEST_F(PersistenceTest, aDatabaseOfTheFirstVersionIsBroughtUpToDate)
     EXPECT_EQ(m_data->devices.all().front().expiresAt, devices.front().expiresAt);
     const Reply groups = get("/apiv1/device/ccGroupList", headers);
     EXPECT_EQ(groups.data().value("groups").toArray().size(), 2);
+    EXPECT_EQ(m_data->keyMaps.ofUser(userId).size(), 2u);
+}
+
+TEST_F(PersistenceTest, aDatabaseWithoutKeyMapsGetsThem)
+{
+    const Headers headers = signedIn();
+    const int userId = m_data->users.find("demo")->id;
+    const std::vector<DeviceGroup> groups = m_data->groups.ofUser(userId);
+    m_data->groups.rename(userId, groups.front().id, "Renamed");
+    {
+        const Database::Lock lock = m_data->database.lock();
+        m_data->database.execute("DROP TABLE key_map_schemes");
+        m_data->database.execute("DROP TABLE seeded_key_map_schemes");
+        m_data->database.execute("PRAGMA user_version = 3");
+    }
+    restart();
+    const std::vector<KeyMapScheme> schemes = m_data->keyMaps.ofUser(userId);
+    ASSERT_EQ(schemes.size(), 2u);
+    EXPECT_EQ(schemes.front().name, "Arena");
+    EXPECT_EQ(m_data->groups.ofUser(userId).front().name, "Renamed");
+    EXPECT_EQ(get("/apiv1/device/list", headers).code(), 200);
 }
 
 TEST_F(PersistenceTest, groupsAreSeededOfTheDevicesThatThereAre)

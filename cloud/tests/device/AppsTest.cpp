@@ -1,6 +1,7 @@
 #include "DeviceFixture.h"
 
 #include "device/Fling.h"
+#include "device/RecentApps.h"
 
 #include <QJsonArray>
 
@@ -29,28 +30,32 @@ protected:
 TEST_F(AppsTest, launcherOpensAppsByTouch)
 {
     EXPECT_EQ(app(), "Home");
-    EXPECT_EQ(
-        state()["apps"].toArray(), (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Camera"}));
-    tap(168, 850);
-    EXPECT_EQ(app(), "Paint");
-    click(KEY_HOMEPAGE);
-    tap(360, 1040);
-    EXPECT_EQ(app(), "Latency");
-    click(KEY_BACK);
-    EXPECT_EQ(app(), "Home");
-    touch(Down, {{168, 850}});
-    touch(Move, {{168, 300}}); // slides off
+    EXPECT_EQ(state()["apps"].toArray(),
+        (QJsonArray{"Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings"}));
+    for (const int rotation : {0, 1}) {
+        device.setRotation(rotation);
+        for (const QJsonValue name : state()["apps"].toArray()) {
+            tapIcon(name.toString().toLatin1().constData());
+            EXPECT_EQ(app(), name.toString());
+            click(KEY_HOMEPAGE);
+        }
+    }
+    device.setRotation(0);
+    const QJsonArray paint = state()["icons"].toObject()["Paint"].toArray();
+    touch(Down, {{paint[0].toInt(), paint[1].toInt()}});
+    touch(Move, {{paint[0].toInt(), 300}}); // slides off
     touch(Up, {});
     EXPECT_EQ(app(), "Home");
 }
 
 TEST_F(AppsTest, openAppByName)
 {
-    for (const char *name : {"Paint", "Notes", "List", "Video", "Latency", "Camera", "Home"}) {
+    for (const char *name :
+        {"Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings", "Home"}) {
         EXPECT_TRUE(device.openApp(name));
         EXPECT_EQ(app(), name);
     }
-    for (const char *name : {"", "paint", "Arena", "Settings", "Nothing"}) {
+    for (const char *name : {"", "paint", "camera", "arena", "Nothing"}) {
         EXPECT_FALSE(device.openApp(name)) << name;
     }
 }
@@ -74,6 +79,39 @@ TEST_F(AppsTest, navigationBarAndKeys)
     click(KEY_MENU);
     tap(265, 500); // two cards side by side: the first is the one last used
     EXPECT_EQ(app(), "List");
+}
+
+// Each of up to eight cards can be touched, none reaches under the bars.
+TEST(RecentAppsTest, everyCardIsOnTheScreen)
+{
+    for (const QSize screen : {QSize(720, 1280), QSize(1280, 720)}) {
+        for (std::size_t count = 1; count <= 8; ++count) {
+            RecentApps recents;
+            std::vector<RecentApps::Card> cards;
+            for (std::size_t i = 0; i < count; ++i) {
+                // The number of the card instead of an app.
+                cards.push_back({static_cast<AppKind>(i), {}});
+            }
+            const QSize picture = RecentApps::pictureSize(screen, count);
+            recents.show(std::move(cards), screen);
+            std::vector<int> hits(count);
+            int outside = 0;
+            for (int y = 1; y < screen.height(); y += 2) {
+                for (int x = 1; x < screen.width(); x += 2) {
+                    const Pointer pointer{1, {x, y}, 1, {}};
+                    recents.touchDown(pointer);
+                    if (recents.touchUp(pointer) == RecentApps::Choice::Open) {
+                        ++hits[static_cast<std::size_t>(recents.chosen())];
+                        outside += y < 48 || y > screen.height() - 84 ? 1 : 0;
+                    }
+                }
+            }
+            EXPECT_EQ(outside, 0) << count;
+            for (const int hit : hits) {
+                EXPECT_GT(hit, picture.width() * picture.height() / 4) << count << " " << screen.width();
+            }
+        }
+    }
 }
 
 TEST_F(AppsTest, closeAllForgetsTheApps)

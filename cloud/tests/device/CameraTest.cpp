@@ -93,7 +93,7 @@ TEST_F(CameraTest, asksWhenOpenedAndStopsWhenLeft)
     click(KEY_BACK);
     EXPECT_EQ(takeAsked(), (Requests{{212, 0, 0, 0}}));
     EXPECT_FALSE(device.wantedCamera());
-    tap(548, 1040); // its icon
+    tapIcon("Camera");
     EXPECT_EQ(app(), "Camera");
     EXPECT_EQ(takeAsked(), (Requests{{212, 1, 720, 1280}}));
     tap(360, 1238); // home

@@ -2,6 +2,7 @@
 
 #include "device/VirtualDevice.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>
@@ -37,6 +38,23 @@ protected:
     {
         touch(Down, {{x, y}});
         touch(Up, {{-1, -1}});
+    }
+    // The same at a place of the screen as it is held.
+    std::pair<int, int> onFrame(int x, int y) const
+    {
+        return device.rotation() % 2 == 0 ? std::pair(x, y) : std::pair(719 - y, x);
+    }
+    void tapHeld(int x, int y)
+    {
+        const auto [frameX, frameY] = onFrame(x, y);
+        tap(frameX, frameY);
+    }
+    // Of an app on the home screen.
+    void tapIcon(const char *name)
+    {
+        const QJsonArray centre = state()["icons"].toObject()[QLatin1String(name)].toArray();
+        ASSERT_EQ(centre.size(), 2) << name;
+        tapHeld(centre[0].toInt(), centre[1].toInt());
     }
     void click(int code, bool shift = false) { device.key("one", 3, code, shift, now); }
     void type(const std::string &utf8) { device.text("one", utf8, now); }

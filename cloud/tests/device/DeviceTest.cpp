@@ -230,14 +230,15 @@ TEST_F(DeviceTest, garbageInputChangesNothingForTheWorse)
 {
     std::mt19937 random(42);
     const auto any = [&random] { return static_cast<int>(random()); };
-    const char *apps[] = {"Home", "Paint", "Notes", "List", "Video", "Latency", "Camera"};
+    const char *apps[]
+        = {"Home", "Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings"};
     const float pressures[] = {std::nanf(""), std::numeric_limits<float>::infinity(), -3, 1e30F, 0.5F};
     for (int step = 0; step < 4000; ++step) {
         const std::string session(1, static_cast<char>('a' + random() % 3));
         now += std::chrono::milliseconds(random() % 60);
         switch (random() % 12) {
         case 0:
-            device.openApp(apps[random() % 7]);
+            device.openApp(apps[random() % std::size(apps)]);
             break;
         case 1:
             device.key(session, any() % 5, any() % 2 ? any() : any() % 800, random() % 2, now);

@@ -38,6 +38,30 @@ protected:
         EXPECT_TRUE(upright.save(QDir(QStringLiteral(DEVICE_PICTURES)).filePath(name + ".png")));
     }
 
+    void playArena(const QString &suffix)
+    {
+        device.openApp("Arena");
+        pass(100ms);
+        expectPicture("arena" + suffix);
+        const QJsonObject controls = state()["controls"].toObject();
+        const auto place = [&](const char *name, int x = 0, int y = 0) {
+            const QJsonObject control = controls[QLatin1String(name)].toObject();
+            return onFrame(control["x"].toInt() + x, control["y"].toInt() + y);
+        };
+        touch(Down, {place("look"), place("joystick")});
+        touch(Move, {place("look", 110, -10), place("joystick", 40, -90)});
+        pass(1500ms);
+        touch(Down, {place("fire"), place("look", 110, -10), place("joystick", 40, -90)});
+        pass(130ms);
+        expectPicture("arena-playing" + suffix);
+        touch(Up, {});
+        touch(Down, {place("jump")});
+        pass(300ms);
+        expectPicture("arena-jumping" + suffix);
+        touch(Up, {});
+        pass(2s);
+    }
+
     void drawScribbles()
     {
         device.openApp("Paint");
@@ -92,6 +116,9 @@ TEST_F(PicturesTest, everyAppInPortraitAndLandscape)
         ASSERT_TRUE(QImage::fromData(photo.readAll()).scaled(640, 480).save(&buffer, "JPG"));
         device.picture("one", jpeg.toStdString(), now);
         expectPicture("camera" + suffix);
+        playArena(suffix);
+        device.openApp("Settings");
+        expectPicture("settings" + suffix);
         device.openApp("Latency");
         expectPicture("latency" + suffix);
         tap(300, 600);

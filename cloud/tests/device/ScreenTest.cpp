@@ -76,7 +76,8 @@ TEST_F(ScreenTest, dirtyRectanglesCoverWhatChanges)
 {
     for (const int rotation : {0, 1, 2, 3}) {
         device.setRotation(rotation);
-        for (const char *app : {"Home", "Paint", "Notes", "List", "Video", "Latency", "Camera"}) {
+        for (const char *app :
+            {"Home", "Paint", "Notes", "List", "Video", "Latency", "Camera", "Arena", "Settings"}) {
             device.openApp(app);
             checkedDirty(app);
             touch(Down, {{200, 300}, {500, 900}});
@@ -115,7 +116,7 @@ TEST_F(ScreenTest, piecesLookLikeTheWhole)
 {
     for (const int rotation : {0, 1}) {
         device.setRotation(rotation);
-        for (const char *app : {"Home", "Paint", "Notes", "List", "Latency", "Camera"}) {
+        for (const char *app : {"Home", "Paint", "Notes", "List", "Latency", "Camera", "Arena", "Settings"}) {
             device.openApp(app);
             device.takeDirty();
             touch(Down, {{200, 400}});

@@ -58,6 +58,8 @@ private slots:
     void shortcutReachesNoDevice();
     void heldShortcutCountsOnce();
     void rotationWhileMaximized();
+    void lateAnswersMoveNothing();
+    void userMovesAPlacedWindow();
     void restoreAfterRotationSwaps();
     void restoreAfterTwoRotations();
     void draggedBarRestoresUnderThePointer();
@@ -349,6 +351,39 @@ void tst_SingleControllerShape::rotationWhileMaximized()
     QTRY_COMPARE(m_fixture->video()->size(), QSize(1250, height - 40));
     window().onScreenRotateBtnClicked();
     QTRY_COMPARE(window().geometry(), upright);
+}
+
+// The window system answers to the maximising when the window has been turned already: the answer has the old
+// place.
+void tst_SingleControllerShape::lateAnswersMoveNothing()
+{
+    window().onMaximizeShortcutActivated();
+    const QPoint upright = window().pos();
+    window().onScreenRotateBtnClicked();
+    const QRect lying = window().geometry();
+    QVERIFY(lying.topLeft() != upright);
+    window().move(upright);
+    QCOMPARE(window().geometry(), lying);
+    window().onMaximizeShortcutActivated();
+    const QPoint restored = window().pos();
+    window().move(lying.topLeft());
+    QCOMPARE(window().pos(), restored);
+}
+
+// Somebody who insists is let have their way, and who takes the window with the mouse at once.
+void tst_SingleControllerShape::userMovesAPlacedWindow()
+{
+    window().onMaximizeShortcutActivated();
+    const QPoint elsewhere = window().pos() + QPoint(50, 60);
+    for (int i = 0; i < 10 && window().pos() != elsewhere; ++i)
+        window().move(elsewhere);
+    QCOMPARE(window().pos(), elsewhere);
+
+    window().onMaximizeShortcutActivated();
+    QTest::mousePress(&window(), Qt::LeftButton, {}, QPoint(100, 5));
+    window().move(elsewhere);
+    QCOMPARE(window().pos(), elsewhere);
+    QTest::mouseRelease(&window(), Qt::LeftButton);
 }
 
 void tst_SingleControllerShape::restoreAfterRotationSwaps()

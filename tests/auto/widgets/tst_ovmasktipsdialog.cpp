@@ -75,6 +75,7 @@ private slots:
     void buttonLooks();
     void longMessageWraps();
     void narrowWindow();
+    void roundedWindow();
     void answers_data();
     void answers();
     void signalsComeBeforeTheEnd();
@@ -212,6 +213,16 @@ void TestOvMaskTipsDialog::narrowWindow()
     QCOMPARE(window.box()->width(), 240 - 2 * 16);
     QVERIFY(window.box()->rect().contains(window.button("confirmButton")->geometry()));
     QVERIFY(window.box()->rect().contains(window.button("closeButton")->geometry()));
+}
+
+// A window that the scale's rounding has made a pixel smaller is covered up to its edge and no further.
+void TestOvMaskTipsDialog::roundedWindow()
+{
+    Window window;
+    QVERIFY(window.appear());
+    window.dialog->resize(window.size() - QSize(19, 19));
+    window.dialog->open();
+    QCOMPARE(window.dialog->size(), window.size() - QSize(20, 20));
 }
 
 void TestOvMaskTipsDialog::answers_data()

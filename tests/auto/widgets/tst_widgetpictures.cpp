@@ -36,6 +36,18 @@ int colorCount(const QPixmap &picture)
     return colors.size();
 }
 
+bool hasColor(const QPixmap &picture, const QColor &color)
+{
+    const QImage image = picture.toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == color)
+                return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 // The small widgets as they appear on the screen, at the scale that QT_SCALE_FACTOR says. With
@@ -110,7 +122,10 @@ void TestWidgetPictures::slider()
     const auto *bubble = slider.findChild<OvBubble *>();
     QVERIFY(bubble->isVisible());
     const QRect rect(slider.mapToGlobal(QPoint(0, 0)), slider.size());
-    check("slider", (rect | bubble->geometry()).adjusted(-10, -10, 10, 10));
+    const QRect both = (rect | bubble->geometry()).adjusted(-10, -10, 10, 10);
+    QTRY_VERIFY(hasColor(screenPicture(both), QColor(7, 204, 251))); // the handle
+    QTRY_VERIFY(hasColor(screenPicture(both), QColor(48, 49, 51))); // the bubble
+    check("slider", both);
 }
 
 void TestWidgetPictures::comboBox()
