@@ -90,7 +90,11 @@ OvMaskTipsDialog::OvMaskTipsDialog(QWidget *parent)
         qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *focused) { keepFocus(focused); });
 }
 
-OvMaskTipsDialog::~OvMaskTipsDialog() = default;
+// The focus moves on while the widget dies, when this is no mask dialog any more.
+OvMaskTipsDialog::~OvMaskTipsDialog()
+{
+    disconnect(qApp, nullptr, this, nullptr);
+}
 
 QPushButton *OvMaskTipsDialog::createButton(const QString &objectName, const QString &colors)
 {
