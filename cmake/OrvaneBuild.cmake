@@ -36,6 +36,17 @@ function(orvane_check_api_base_url)
     endif()
 endfunction()
 
+# Limits a test to so many seconds, 120 if none are given; under a sanitizer everything takes longer.
+function(orvane_set_timeout test seconds)
+    if(NOT seconds)
+        set(seconds 120)
+    endif()
+    if(ORVANE_SANITIZE)
+        math(EXPR seconds "5 * ${seconds}")
+    endif()
+    set_tests_properties(${test} PROPERTIES TIMEOUT ${seconds})
+endfunction()
+
 # orvane_add_gtest(NAME <test> LABELS <labels> SOURCES <files> LIBS <libraries>): a GoogleTest program
 # run by CTest as one test.
 function(orvane_add_gtest)
@@ -44,8 +55,6 @@ function(orvane_add_gtest)
     add_executable(${T_NAME} ${T_SOURCES})
     target_link_libraries(${T_NAME} PRIVATE ${T_LIBS} GTest::gmock GTest::gtest_main)
     add_test(NAME ${T_NAME} COMMAND ${T_NAME})
-    if(NOT T_TIMEOUT)
-        set(T_TIMEOUT 120)
-    endif()
-    set_tests_properties(${T_NAME} PROPERTIES LABELS "${T_LABELS}" TIMEOUT ${T_TIMEOUT})
+    orvane_set_timeout(${T_NAME} "${T_TIMEOUT}")
+    set_tests_properties(${T_NAME} PROPERTIES LABELS "${T_LABELS}")
 endfunction()
