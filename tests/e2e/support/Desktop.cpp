@@ -31,16 +31,18 @@ QString Desktop::xdotool(const QStringList &arguments)
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-static QString windowId(const QString &found)
+// Empty when there is none. A search that meets a window in the moment of its end finds nothing at all.
+QString Desktop::find(const QString &title)
 {
+    const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
+    const QString found = xdotool(
+        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern});
     return found.split(QLatin1Char('\n'), Qt::SkipEmptyParts).value(0);
 }
 
 QRect Desktop::window(const QString &title)
 {
-    const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
-    const QString id = windowId(xdotool(
-        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
+    const QString id = find(title);
     if (id.isEmpty())
         return {};
     const QString shell = xdotool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), id});
@@ -54,11 +56,11 @@ QRect Desktop::window(const QString &title)
 
 void Desktop::activate(const QString &title)
 {
-    const QString pattern = QLatin1Char('^') + QRegularExpression::escape(title) + QLatin1Char('$');
-    const QString id = windowId(xdotool(
-        {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"), pattern}));
-    if (id.isEmpty())
-        throw StepFailed(QStringLiteral("there is no window '%1'").arg(title));
+    QString id;
+    waitUntil(QStringLiteral("there is a window '%1'").arg(title), [&] {
+        id = find(title);
+        return !id.isEmpty();
+    });
     xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), id});
 }
 

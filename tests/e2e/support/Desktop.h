@@ -35,6 +35,8 @@ public:
     static QImage screenshot(const QRect &area = {});
 
 private:
+    // The X id of that window.
+    static QString find(const QString &title);
     static QString xdotool(const QStringList &arguments);
 };
 
