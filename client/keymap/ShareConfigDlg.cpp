@@ -94,8 +94,8 @@ ShareConfigDlg::ShareConfigDlg(QWidget *parent)
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowModality(Qt::WindowModal);
     m_titleLabel->setFixedSize(scaledSize(Look::Title, this));
-    m_hintLabel->setStyleSheet(
-        QStringLiteral("QLabel { background: #8E8E97; color: white; border-radius: 2px; padding: 1px 6px; }"));
+    m_hintLabel->setStyleSheet(QStringLiteral(
+        "QLabel { background: #8E8E97; color: white; border-radius: 2px; padding: 1px 6px; }"));
     m_promptLabel->setWordWrap(true);
     m_codeEdit->setObjectName(QStringLiteral("codeEdit"));
     QFont editFont = m_codeEdit->font();

@@ -26,6 +26,9 @@ public:
     explicit OvMaskTipsDialog(QWidget *parent = nullptr);
     ~OvMaskTipsDialog() override;
 
+    // The heading, a plain text; "Hints" as long as none is set.
+    void setTitle(const QString &title);
+    QString title() const;
     // The question, a plain text.
     void setText(const QString &text);
     QString text() const;
@@ -54,6 +57,7 @@ private:
     void confirm();
     void keepFocus(QWidget *focused);
 
+    QString m_title; // empty: the usual one
     QFrame *m_box; // children
     QLabel *m_titleLabel;
     QLabel *m_messageLabel;
