@@ -2,6 +2,7 @@
 
 #include "keymap/FittedText.h"
 #include "keymap/KeyKindButton.h"
+#include "keymap/KeyMapControls.h"
 #include "keymap/KeyboardMapMgr.h"
 #include "keymap/OvAuxiliaryClick.h"
 #include "keymap/OvAuxiliaryCrosshair.h"
@@ -18,14 +19,13 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QEvent>
-#include <QGridLayout>
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QMoveEvent>
 #include <QPainter>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -38,15 +38,11 @@ constexpr int Spacing = 12;
 constexpr int TightSpacing = 4;
 constexpr int LowPanel = 420; // a lower one is laid out tightly
 constexpr int HeaderPixels = 14;
-constexpr int TextPixels = 13;
 constexpr int HeaderButtonPixels = 12;
 constexpr int SmallestTextPixels = 10;
 constexpr int HeaderIcon = 18;
 constexpr int HeaderButtonHeight = 26;
 constexpr int HeaderButtonPadding = 5; // on each side
-constexpr int SliderLabelWidth = 116;
-constexpr int SliderSpacing = 8;
-constexpr int KindSpacing = 8;
 constexpr QSize Button(110, 40);
 constexpr int ButtonMargin = 6; // of its text
 constexpr QRgb Ground = qRgba(28, 28, 46, 255);
@@ -90,30 +86,6 @@ QString saveButtonStyle()
         "QPushButton:disabled { background: #2C2D42; color: #606266; }");
 }
 
-QString scrollAreaStyle()
-{
-    return QStringLiteral(
-        "QScrollArea { background: transparent; border: none; }"
-        "QScrollBar:vertical { background: transparent; width: 6px; margin: 0; }"
-        "QScrollBar::handle:vertical { background: #606266; border-radius: 3px; min-height: 24px; }"
-        "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
-        "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }");
-}
-
-QLabel *createLabel(const QString &objectName, int pixels, bool isBold = false)
-{
-    auto *label = new QLabel;
-    label->setObjectName(objectName);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    QFont font = label->font();
-    font.setPixelSize(pixels);
-    font.setBold(isBold);
-    label->setFont(font);
-    label->setStyleSheet(QStringLiteral("color: white;"));
-    return label;
-}
-
 QPushButton *createButton(const QString &objectName, const QString &style)
 {
     auto *button = new QPushButton;
@@ -134,27 +106,6 @@ QPushButton *createHeaderButton(const QString &objectName, const QString &iconPa
     font.setPixelSize(Look::HeaderButtonPixels);
     button->setFont(font);
     return button;
-}
-
-OvSlider *createSlider(const QString &objectName, int minimum, int maximum)
-{
-    auto *slider = new OvSlider;
-    slider->setObjectName(objectName);
-    slider->setRange(minimum, maximum);
-    slider->setValue(minimum);
-    return slider;
-}
-
-WrappingCheckBox *createCheckBox(const QString &objectName)
-{
-    auto *box = new WrappingCheckBox;
-    box->setObjectName(objectName);
-    box->setFocusPolicy(Qt::NoFocus);
-    box->setCursor(Qt::PointingHandCursor);
-    QFont font = box->font();
-    font.setPixelSize(Look::TextPixels);
-    box->setFont(font);
-    return box;
 }
 
 void setButtonText(QPushButton *button, const QString &text)
@@ -200,79 +151,26 @@ KeyboardMapEditor::~KeyboardMapEditor() = default;
 
 void KeyboardMapEditor::createWidgets()
 {
-    m_headerLabel = createLabel(QStringLiteral("headerLabel"), Look::HeaderPixels, true);
+    m_headerLabel = new QLabel;
+    m_headerLabel->setObjectName(QStringLiteral("headerLabel"));
+    QFont font = m_headerLabel->font();
+    font.setPixelSize(Look::HeaderPixels);
+    font.setBold(true);
+    m_headerLabel->setFont(font);
+    m_headerLabel->setStyleSheet(QStringLiteral("color: white;"));
     m_addButton = createHeaderButton(QStringLiteral("addButton"), QStringLiteral(":/icon/svg/addConfig.svg"));
     m_refreshButton = createHeaderButton(
         QStringLiteral("refreshButton"), QStringLiteral(":/icon/svg/refreshConfigList.svg"));
     m_schemeBox = new SchemeBox;
-    m_kindsLabel = createLabel(QStringLiteral("kindsLabel"), Look::TextPixels);
-    m_clickButton = new KeyKindButton(QStringLiteral(":icon/svg/option_click.svg"));
-    m_clickButton->setObjectName(QStringLiteral("clickButton"));
-    m_walkingButton = new KeyKindButton(QStringLiteral(":icon/svg/option_walking.svg"));
-    m_walkingButton->setObjectName(QStringLiteral("walkingButton"));
-    m_crosshairButton = new KeyKindButton(QStringLiteral(":icon/svg/option_crosshair.svg"));
-    m_crosshairButton->setObjectName(QStringLiteral("crosshairButton"));
-    m_promptsLabel = createLabel(QStringLiteral("promptsLabel"), Look::TextPixels);
-    m_opacityLabel = createLabel(QStringLiteral("opacityLabel"), Look::TextPixels);
-    m_opacitySlider = createSlider(
-        QStringLiteral("opacitySlider"), KeyMapScheme::minimumOpacity, KeyMapScheme::maximumOpacity);
-    m_opacitySlider->setPageStep(10);
-    m_sizeLabel = createLabel(QStringLiteral("sizeLabel"), Look::TextPixels);
-    m_sizeSlider
-        = createSlider(QStringLiteral("sizeSlider"), KeyMapScheme::minimumSize, KeyMapScheme::maximumSize);
-    m_sizeSlider->setSingleStep(1);
-    m_showKeysBox = createCheckBox(QStringLiteral("showKeysBox"));
-    m_showNotesBox = createCheckBox(QStringLiteral("showNotesBox"));
+    m_controls = new KeyMapControls;
     m_resetButton = createButton(QStringLiteral("resetButton"), resetButtonStyle());
     m_saveButton = createButton(QStringLiteral("saveButton"), saveButtonStyle());
     for (QPushButton *button : {m_resetButton, m_saveButton})
         button->setFixedSize(scaled(Look::Button.width(), this), scaled(Look::Button.height(), this));
 }
 
-QWidget *KeyboardMapEditor::createKeyKinds()
-{
-    auto *kinds = new QWidget;
-    kinds->setObjectName(QStringLiteral("keyKinds"));
-    auto *layout = new QHBoxLayout(kinds);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Look::KindSpacing);
-    for (KeyKindButton *button : {m_clickButton, m_walkingButton, m_crosshairButton})
-        layout->addWidget(button, 1);
-    return kinds;
-}
-
-// What is between the schemes and the buttons scrolls where a low panel has not enough room for it.
 void KeyboardMapEditor::createLayout()
 {
-    auto *content = new QWidget;
-    content->setAutoFillBackground(false);
-    m_content = new QVBoxLayout(content);
-    m_content->setContentsMargins(0, 0, 0, 0);
-    m_content->addWidget(m_kindsLabel);
-    m_content->addWidget(createKeyKinds());
-    m_content->addWidget(m_promptsLabel);
-    auto *sliders = new QGridLayout;
-    sliders->setContentsMargins(0, 0, 0, 0);
-    sliders->setHorizontalSpacing(Look::SliderSpacing);
-    sliders->setVerticalSpacing(Look::TightSpacing);
-    for (QLabel *label : {m_opacityLabel, m_sizeLabel})
-        label->setFixedWidth(Look::SliderLabelWidth);
-    sliders->addWidget(m_opacityLabel, 0, 0);
-    sliders->addWidget(m_opacitySlider, 0, 1);
-    sliders->addWidget(m_sizeLabel, 1, 0);
-    sliders->addWidget(m_sizeSlider, 1, 1);
-    m_content->addLayout(sliders);
-    m_content->addWidget(m_showKeysBox);
-    m_content->addWidget(m_showNotesBox);
-    m_content->addStretch();
-    m_scrollArea = new QScrollArea;
-    m_scrollArea->setWidgetResizable(true);
-    m_scrollArea->setFocusPolicy(Qt::NoFocus);
-    m_scrollArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scrollArea->setStyleSheet(scrollAreaStyle());
-    m_scrollArea->setWidget(content);
-    m_scrollArea->viewport()->setAutoFillBackground(false);
-
     auto *header = new QHBoxLayout;
     header->setSpacing(0);
     header->addWidget(m_headerLabel, 1);
@@ -287,17 +185,21 @@ void KeyboardMapEditor::createLayout()
     m_frame = new QVBoxLayout(this);
     m_frame->addLayout(header);
     m_frame->addWidget(m_schemeBox);
-    m_frame->addWidget(m_scrollArea, 1);
+    m_frame->addWidget(m_controls, 1);
     m_frame->addLayout(buttons);
 }
 
 void KeyboardMapEditor::connectWidgets()
 {
-    connect(m_clickButton, &QPushButton::clicked, this, &KeyboardMapEditor::sigAuxiliaryClickBtnClicked);
-    connect(m_walkingButton, &QPushButton::clicked, this, &KeyboardMapEditor::sigAuxiliaryWalkingClicked);
-    connect(m_crosshairButton, &QPushButton::clicked, this, &KeyboardMapEditor::sigAuxiliaryCrosshairClicked);
-    connect(m_opacitySlider, &QSlider::valueChanged, this, &KeyboardMapEditor::sigOpacityValueChanged);
-    connect(m_sizeSlider, &QSlider::valueChanged, this, &KeyboardMapEditor::sigSizeValueChanged);
+    connect(m_controls->clickButton(), &QPushButton::clicked, this,
+        &KeyboardMapEditor::sigAuxiliaryClickBtnClicked);
+    connect(m_controls->walkingButton(), &QPushButton::clicked, this,
+        &KeyboardMapEditor::sigAuxiliaryWalkingClicked);
+    connect(m_controls->crosshairButton(), &QPushButton::clicked, this,
+        &KeyboardMapEditor::sigAuxiliaryCrosshairClicked);
+    connect(m_controls->opacitySlider(), &QSlider::valueChanged, this,
+        &KeyboardMapEditor::sigOpacityValueChanged);
+    connect(m_controls->sizeSlider(), &QSlider::valueChanged, this, &KeyboardMapEditor::sigSizeValueChanged);
     connect(m_resetButton, &QPushButton::clicked, this, &KeyboardMapEditor::onResetBtnClicked);
     connect(m_saveButton, &QPushButton::clicked, this, &KeyboardMapEditor::onSaveBtnClicked);
 }
@@ -313,9 +215,9 @@ void KeyboardMapEditor::connectManager()
         connect(m_manager, &KeyboardMapMgr::sigUpdateComboBox, this, &KeyboardMapEditor::onUpdateComboBox);
         connect(m_schemeBox, qOverload<int>(&QComboBox::currentIndexChanged), m_manager,
             &KeyboardMapMgr::onComboBoxItemChanged);
-        connect(m_showKeysBox, &QCheckBox::stateChanged, m_manager,
+        connect(m_controls->showKeysBox(), &QCheckBox::stateChanged, m_manager,
             &KeyboardMapMgr::onShowBtnCheckBoxStateChanged);
-        connect(m_showNotesBox, &QCheckBox::stateChanged, m_manager,
+        connect(m_controls->showNotesBox(), &QCheckBox::stateChanged, m_manager,
             &KeyboardMapMgr::onShowNoteCheckBoxStateChanged);
     }
     connect(m_schemeBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -327,22 +229,18 @@ void KeyboardMapEditor::setTexts()
     m_headerLabel->setText(tr("Key Preset"));
     m_addButton->setToolTip(tr("Add scheme"));
     m_refreshButton->setToolTip(tr("Refresh"));
-    m_kindsLabel->setText(tr("Please Select Auxiliary Key"));
-    m_clickButton->setText(tr("Click"));
-    m_walkingButton->setText(tr("keyboard walking"));
-    m_crosshairButton->setText(tr("crosshair"));
-    m_promptsLabel->setText(tr("Key prompts"));
-    m_opacityLabel->setText(tr("Button transparency"));
-    m_opacitySlider->setAccessibleName(m_opacityLabel->text());
-    m_sizeLabel->setText(tr("Key size"));
-    m_sizeSlider->setAccessibleName(m_sizeLabel->text());
-    m_showKeysBox->setText(tr("Show buttons when entering the game"));
-    m_showNotesBox->setText(tr("Show notes when entering the game"));
     setButtonText(m_resetButton, tr("Reset"));
     setButtonText(m_saveButton, tr("Save"));
     for (QPushButton *button : {m_addButton, m_refreshButton})
         button->setAccessibleName(button->toolTip());
     showHeaderTexts();
+}
+
+void KeyboardMapEditor::setEditControlsEnabled(bool enabled)
+{
+    m_controls->setEditable(enabled);
+    m_resetButton->setEnabled(enabled);
+    m_saveButton->setEnabled(enabled);
 }
 
 // Where the texts of the two buttons have no room beside the header, they are in the tool tips alone.
@@ -360,29 +258,12 @@ void KeyboardMapEditor::showHeaderTexts()
 
 int KeyboardMapEditor::opacity() const
 {
-    return m_opacitySlider->value();
+    return m_controls->opacitySlider()->value();
 }
 
 int KeyboardMapEditor::keySize() const
 {
-    return m_sizeSlider->value();
-}
-
-// The toolkit shows no cursor of a widget that is disabled, but that of what is below it.
-void KeyboardMapEditor::setEditControlsEnabled(bool enabled)
-{
-    for (KeyKindButton *button : {m_clickButton, m_walkingButton, m_crosshairButton}) {
-        button->setEnabled(enabled);
-        button->parentWidget()->setCursor(enabled ? Qt::ArrowCursor : Qt::ForbiddenCursor);
-        if (enabled)
-            button->setCursor(Qt::PointingHandCursor);
-        else
-            button->unsetCursor();
-    }
-    for (QWidget *widget : {static_cast<QWidget *>(m_opacitySlider), static_cast<QWidget *>(m_sizeSlider),
-             static_cast<QWidget *>(m_showKeysBox), static_cast<QWidget *>(m_showNotesBox),
-             static_cast<QWidget *>(m_resetButton), static_cast<QWidget *>(m_saveButton)})
-        widget->setEnabled(enabled);
+    return m_controls->sizeSlider()->value();
 }
 
 void KeyboardMapEditor::changeEvent(QEvent *event)
@@ -406,7 +287,7 @@ void KeyboardMapEditor::resizeEvent(QResizeEvent *event)
     const int vertical = isLow ? Look::TightMargin : Look::Margin;
     m_frame->setContentsMargins(Look::Margin, vertical, Look::Margin, vertical);
     m_frame->setSpacing(isLow ? Look::TightSpacing : Look::Spacing);
-    m_content->setSpacing(isLow ? Look::TightSpacing : Look::Spacing);
+    m_controls->setSpacing(isLow ? Look::TightSpacing : Look::Spacing);
     showHeaderTexts();
     QWidget::resizeEvent(event);
 }
@@ -507,11 +388,11 @@ void KeyboardMapEditor::apply(const KeyMapScheme &scheme, bool toReference)
 
 void KeyboardMapEditor::applySettings(const KeyMapScheme &scheme)
 {
-    m_opacitySlider->setValue(scheme.opacity);
-    m_sizeSlider->setValue(scheme.size);
-    m_showKeysBox->setChecked(scheme.showKeys);
+    m_controls->opacitySlider()->setValue(scheme.opacity);
+    m_controls->sizeSlider()->setValue(scheme.size);
+    m_controls->showKeysBox()->setChecked(scheme.showKeys);
     m_manager->setShowKeys(scheme.showKeys);
-    m_showNotesBox->setChecked(scheme.showKeyNotes);
+    m_controls->showNotesBox()->setChecked(scheme.showKeyNotes);
     m_manager->setShowKeyNotes(scheme.showKeyNotes);
 }
 
@@ -591,7 +472,8 @@ void KeyboardMapEditor::onSaveBtnClicked()
     if (!m_manager)
         return;
     QVariantMap scheme{{Member::opacity, opacity()}, {Member::size, keySize()},
-        {Member::showKeys, m_showKeysBox->isChecked()}, {Member::showKeyNotes, m_showNotesBox->isChecked()},
+        {Member::showKeys, m_controls->showKeysBox()->isChecked()},
+        {Member::showKeyNotes, m_controls->showNotesBox()->isChecked()},
         {Member::orientation, m_orientation != ScreenOrientation::Portrait}};
     m_manager->saveCurrentScheme(scheme);
     emit sigSaveAndClose();

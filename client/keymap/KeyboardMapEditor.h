@@ -9,16 +9,13 @@
 #include <QVariantMap>
 #include <QWidget>
 
-class KeyKindButton;
+class KeyMapControls;
 class KeyboardMapMgr;
 class OvAuxiliaryKey;
-class OvSlider;
 class QBoxLayout;
 class QLabel;
 class QPushButton;
-class QScrollArea;
 class SchemeBox;
-class WrappingCheckBox;
 
 // The panel beside the video while the key mapping is edited: chooses among the user's schemes and lays the
 // keys of the chosen one over the video, adds keys, sets how keys look, and saves. It makes no keys and sends
@@ -99,7 +96,6 @@ protected:
 private:
     void createWidgets();
     void createLayout();
-    QWidget *createKeyKinds();
     void connectWidgets();
     void connectManager();
     void setTexts();
@@ -125,20 +121,8 @@ private:
     QPushButton *m_addButton = nullptr;
     QPushButton *m_refreshButton = nullptr;
     SchemeBox *m_schemeBox = nullptr;
-    QLabel *m_kindsLabel = nullptr;
-    KeyKindButton *m_clickButton = nullptr;
-    KeyKindButton *m_walkingButton = nullptr;
-    KeyKindButton *m_crosshairButton = nullptr;
-    QLabel *m_promptsLabel = nullptr;
-    QLabel *m_opacityLabel = nullptr;
-    OvSlider *m_opacitySlider = nullptr;
-    QLabel *m_sizeLabel = nullptr;
-    OvSlider *m_sizeSlider = nullptr;
-    WrappingCheckBox *m_showKeysBox = nullptr;
-    WrappingCheckBox *m_showNotesBox = nullptr;
+    KeyMapControls *m_controls = nullptr;
     QPushButton *m_resetButton = nullptr;
     QPushButton *m_saveButton = nullptr;
-    QScrollArea *m_scrollArea = nullptr; // holds what is between schemes and buttons
-    QBoxLayout *m_content = nullptr; // layouts whose spacing follows the panel's height
     QBoxLayout *m_frame = nullptr;
 };
