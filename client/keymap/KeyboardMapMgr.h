@@ -4,6 +4,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QPointer>
 #include <QString>
 #include <QVariantMap>
@@ -124,17 +125,20 @@ public slots:
     void onShowNoteCheckBoxStateChanged(int state);
 
 private:
-    using DataHandler = std::function<void(const ResponseData &)>;
-    using FailureHandler = std::function<void()>;
+    // A request: what it is called in the log, and what follows.
+    struct Operation
+    {
+        QString name;
+        std::function<void(const ResponseData &)> onSuccess;
+        std::function<void()> onFailure; // after it was logged and shown; may be empty
+    };
 
     HttpHelper *httpHelper();
-    void handleAnswer(const QString &operation, const ResponseData &response, const DataHandler &onSuccess,
-        const FailureHandler &onFailure);
-    void post(const QString &path, const QJsonObject &body, const QString &operation,
-        const DataHandler &onSuccess, const FailureHandler &onFailure = {});
-    void showFailure(const QString &logText, const QString &message);
+    void post(const char *path, const QJsonObject &body, const Operation &operation);
+    void onAnswer(const Operation &operation, const ResponseData &response);
+    void onTransportFailure(const Operation &operation, const QString &error);
+    void takeMapConfigs(const QJsonValue &data);
     void showToast(const QString &text);
-    void appendKey(QJsonArray &array, const OvAuxiliaryKey *key) const;
 
     bool m_isRecording = false;
     bool m_isModified = false;

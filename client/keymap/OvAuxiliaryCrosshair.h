@@ -35,7 +35,6 @@ public:
 
 protected:
     bool playEvent(QEvent *event) override;
-    void moveEvent(QMoveEvent *event) override;
 
 private:
     QPoint centreOnScreen() const;

@@ -70,6 +70,10 @@ public:
     // Takes its spot from a left and upper edge in a view of 340 x 600 pixels, 600 x 340 in landscape,
     // whatever the video view's size is, and goes there. Works whether or not the key is being edited.
     virtual void setPositionInReference(int x, int y);
+    // Moves its left upper corner to a place in the video view and takes its spot from there, at once and
+    // whether or not the key is being edited or shown yet; a plain move() is noticed only while the key is
+    // visible and being edited, or the combo box is being refilled.
+    void placeAt(const QPoint &topLeft);
     // Goes to its spot in the video view as that is now.
     virtual void relayout();
     virtual ScreenOrientation screenOrientation() const { return m_screenOrientation; }
@@ -127,6 +131,8 @@ protected:
     virtual bool playEvent(QEvent *event) = 0;
     // The key of the keyboard, while the key is being edited.
     virtual void bindKey(int key);
+    // Whether it is drawn at all: in play not always.
+    bool isSeen() const;
     // Its letters in the colour of the opacity.
     virtual void styleLabels();
     // Shows or hides its letters.
@@ -156,11 +162,12 @@ protected:
 
 private:
     QPushButton *createButton(const QString &objectName, const QString &icon);
-    bool isSeen() const;
     bool losesKeyboard(QObject *watched, QEvent *event) const;
+    void createChildren();
+    void fitKeyLabel();
     void storeSpot();
-    void storeSpot(const QPoint &topLeft, const QSizeF &view);
-    void placeButtons();
+    void storeSpot(const QPoint &topLeft, const QSize &view);
+    void placeAttachments();
     void placeNoteEditor();
     void showNote();
 
@@ -178,9 +185,10 @@ private:
     OvAuxiliaryKeyEditor *m_noteEditor = nullptr; // child, a window of its own
     QPointer<KeyboardMapMgr> m_manager; // not owned
     QPointer<OvKeyNoteBubble> m_noteBubble; // child of the video view
+    bool m_isDragging = false;
     QPoint m_lastGlobalPos; // of the mouse, while dragging
-    double m_fx = 0; // the spot: the key's centre as fractions of the device's portrait screen
-    double m_fy = 0;
+    double m_fx = 0.5; // the spot: the key's centre as fractions of the device's portrait screen
+    double m_fy = 0.5;
     QString m_note;
     ScreenOrientation m_screenOrientation = ScreenOrientation::Portrait; // of the video view
 };

@@ -41,9 +41,9 @@ protected:
     void bindKey(int key) override;
     void styleLabels() override;
     void setLabelsVisible(bool areVisible) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void createLetter(int index, const char *text, const QPoint &place);
     void press(const QKeyEvent &event);
     void release(const QKeyEvent &event);
     int takeReleasedLetter(const QKeyEvent &event);
