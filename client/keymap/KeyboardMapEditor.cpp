@@ -16,14 +16,12 @@
 #include "widgets/OvWindowBase.h"
 
 #include <QClipboard>
-#include <QCoreApplication>
 #include <QDebug>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
-#include <QMoveEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -114,18 +112,6 @@ void setButtonText(QPushButton *button, const QString &text)
     button->setFont(
         FittedText::onOneLine(button->font(), text, room, Look::HeaderPixels, Look::SmallestTextPixels));
     button->setText(text);
-}
-
-// A widget that is not shown is told of its move only when it is shown; a key stores its spot when it is
-// told.
-void moveAndTell(QWidget *widget, const QPoint &position)
-{
-    const QPoint former = widget->pos();
-    widget->move(position);
-    if (!widget->isVisible()) {
-        QMoveEvent event(position, former);
-        QCoreApplication::sendEvent(widget, &event);
-    }
 }
 
 } // namespace
@@ -326,7 +312,7 @@ void KeyboardMapEditor::fillRows()
     for (const QJsonValue entry : m_manager->mapConfigs()) {
         const QJsonObject scheme = entry.toObject();
         const SchemeBox::Row row = m_schemeBox->addScheme(
-            scheme.value(Member::mapId).toString(), scheme.value(Member::mapName).toString());
+            scheme.value(Member::mapId).toVariant().toString(), scheme.value(Member::mapName).toString());
         connect(row.editButton, &QPushButton::clicked, this, &KeyboardMapEditor::onItemEditBtnClicked);
         connect(row.shareButton, &QPushButton::clicked, this, &KeyboardMapEditor::onItemShareBtnClicked);
         connect(row.copyButton, &QPushButton::clicked, this, &KeyboardMapEditor::onItemCopyBtnClicked);
@@ -431,6 +417,7 @@ void KeyboardMapEditor::applyKey(const KeyMapScheme &scheme, const KeyMapScheme:
         qWarning() << "a key of a key-mapping scheme was not made, its kind is" << saved.type;
         return;
     }
+    key->onComboBoxUpdate(m_manager->isComboBoxUpdating());
     key->onRecordingStatusChanged(m_manager->isRecording());
     key->applySize(scheme.size);
     key->applyAlpha(scheme.opacity);
@@ -442,20 +429,15 @@ void KeyboardMapEditor::applyKey(const KeyMapScheme &scheme, const KeyMapScheme:
         crosshair->setSensitivity(*saved.sensitivity);
 }
 
-// A key stores its spot only while it is being edited or the schemes are being refilled.
 void KeyboardMapEditor::placeKey(
     OvAuxiliaryKey *key, const KeyMapScheme &scheme, const KeyMapScheme::Key &saved, bool toReference)
 {
     const QPoint position = scheme.placed(
         saved.position, key->screenOrientation(), key->size(), scaled(KeyMapScheme::viewShortSide, this));
-    if (toReference) {
+    if (toReference)
         key->setPositionInReference(position.x(), position.y());
-        key->onComboBoxUpdate(m_manager->isComboBoxUpdating());
-        return;
-    }
-    key->onComboBoxUpdate(true);
-    moveAndTell(key, position);
-    key->onComboBoxUpdate(m_manager->isComboBoxUpdating());
+    else
+        key->placeAt(position);
 }
 
 // ---- What the user does

@@ -347,13 +347,17 @@ void KeyboardMapMgr::onActionMapConfig(QString type, QVariantMap mapConfig)
     for (auto entry = mapConfig.cbegin(); entry != mapConfig.cend(); ++entry)
         body.insert(entry.key(), QJsonValue::fromVariant(entry.value()));
     const bool isRenaming = mapConfig.contains(MapName);
+    const bool isSaving = mapConfig.contains(Config);
+    if (isSaving)
+        m_isModified = false; // what is changed from now on is not in what is sent
     post("actionMapConfig", body,
         {type,
             [this](const ResponseData &) {
                 QTimer::singleShot(RefreshDelay, this, &KeyboardMapMgr::onRefreshMapConfig);
                 showToast(tr("Operated successfully"));
             },
-            [this, isRenaming] {
+            [this, isRenaming, isSaving] {
+                m_isModified = m_isModified || isSaving;
                 if (isRenaming)
                     emit sigUpdateComboBox();
             }});
