@@ -130,7 +130,9 @@ void KeyboardMapMgr::addAuxiliaryKey(int type, OvAuxiliaryKey *key)
     connect(this, &KeyboardMapMgr::sigRecordingStatusChanged, key, &OvAuxiliaryKey::onRecordingStatusChanged);
     connect(this, &KeyboardMapMgr::sigComboBoxUpdate, key, &OvAuxiliaryKey::onComboBoxUpdate);
     key->onComboBoxUpdate(m_isComboBoxUpdating);
-    key->onRecordingStatusChanged(m_isRecording);
+    if (m_isRecording)
+        key->onRecordingStatusChanged(true);
+    key->onShownChanged();
 }
 
 bool KeyboardMapMgr::hasPendingKey(int type) const

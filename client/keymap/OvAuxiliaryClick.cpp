@@ -55,6 +55,5 @@ void OvAuxiliaryClick::liftFinger()
     if (!isPressed())
         return;
     m_ignoresRelease = true;
-    setPressed(false);
-    emitAction(keymap::Release);
+    OvAuxiliaryKey::liftFinger();
 }

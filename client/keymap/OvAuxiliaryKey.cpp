@@ -151,6 +151,14 @@ void OvAuxiliaryKey::emitAction(int action)
     emit sigAuxiliaryKeyAction(action);
 }
 
+void OvAuxiliaryKey::liftFinger()
+{
+    if (!m_isPressed)
+        return;
+    m_isPressed = false;
+    emitAction(keymap::Release);
+}
+
 // Its keys and mouse come from the window: what the view's own filter sees besides would count twice.
 bool OvAuxiliaryKey::eventFilter(QObject *watched, QEvent *event)
 {

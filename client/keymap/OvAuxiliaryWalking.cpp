@@ -234,8 +234,5 @@ void OvAuxiliaryWalking::liftFinger()
     m_offset = QPointF();
     if (m_stepTimer)
         m_stepTimer->stop();
-    if (!isPressed())
-        return;
-    setPressed(false);
-    emitAction(keymap::Release);
+    OvAuxiliaryKey::liftFinger();
 }

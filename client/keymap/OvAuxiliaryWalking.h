@@ -55,7 +55,7 @@ private:
     int m_ignoredReleases = 0; // letters whose presses were ended by liftFinger
     QHash<quint32, int> m_letterOfScanCode; // the keyboard's own codes of held letters
     QTimer *m_stepTimer = nullptr; // child, made on first use
-    QLabel *m_letters[4]; // children: W, S, A, D
+    QLabel *m_letters[4] = {}; // children: W, S, A, D
     QPointF m_target;
     QPointF m_offset;
 };
