@@ -2,8 +2,8 @@
 
 #include <QCursor>
 
-// The key that looks around. The pointer is the display's; its moves are sent by hand, and what the display sends
-// besides comes when the pointer has been put back.
+// The key that looks around. The pointer is the display's; its moves are sent by hand, and what the display
+// sends besides comes when the pointer has been put back.
 class TestOvAuxiliaryCrosshair : public KeyMapFixture
 {
     Q_OBJECT

@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPointer>
+#include <QScreen>
 #include <QSignalSpy>
 
 using namespace keymaptest;
