@@ -69,7 +69,7 @@ public:
         qputenv("ORVANE_API_BASE_URL", server().baseUrl().toUtf8());
         server().setAnswer("{}");
         window.setFixedContentSize(QSize(640, 640));
-        auto *row = new QHBoxLayout;
+        row = new QHBoxLayout;
         row->setSpacing(0);
         view = new VideoView;
         manager = new KeyboardMapMgr(&window);
@@ -87,6 +87,12 @@ public:
     {
         static TestHttpServer shared;
         return shared;
+    }
+    // Gives the view a size that the window's layout leaves alone.
+    void resizeView(const QSize &size)
+    {
+        row->removeWidget(view);
+        view->resize(size);
     }
     SchemeBox *box() const { return editor->findChild<SchemeBox *>(); }
     template <typename Widget = QPushButton>
@@ -143,6 +149,7 @@ public:
     }
 
     OvWindowBase window;
+    QHBoxLayout *row = nullptr; // view and panel
     VideoView *view = nullptr;
     KeyboardMapMgr *manager = nullptr;
     KeyboardMapEditor *editor = nullptr;

@@ -315,9 +315,10 @@ void TestKeyboardMapEditor::turnedSchemes()
     QFETCH(QPoint, place);
     if (viewLies)
         f().view->setOrientation(ScreenOrientation::Landscape);
-    f().view->resize(510, 700);
+    f().resizeView(QSize(510, 700));
     QVERIFY(f().fill({schemeLies ? landscapeScheme(OneKey) : scheme("P", "Portrait", OneKey)}));
     f().box()->setCurrentIndex(0);
+    QCOMPARE(f().view->size(), QSize(510, 700));
     QVERIFY(f().manager->lastClickKey());
     QCOMPARE(f().manager->lastClickKey()->pos(), place);
     f().manager->relayoutKeys(); // it is the key's own place
@@ -567,7 +568,7 @@ void TestKeyboardMapEditor::localCopyInPlay()
     QFETCH(bool, schemeLies);
     QFETCH(QSize, view);
     f().manager->setRecording(false);
-    f().view->resize(view);
+    f().resizeView(view);
     f().editor->applySchemeObject({{"config", QString::fromUtf8(OneKey)}, {"key_size", 30},
                                       {"screen_orientation", schemeLies}, {"show_key", true}},
         oneClick);
