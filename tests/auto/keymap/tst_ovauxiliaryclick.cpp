@@ -59,8 +59,7 @@ void TestOvAuxiliaryClick::passesRepeatsOn()
     send(QEvent::KeyRelease, Qt::Key_Q, true);
     send(QEvent::KeyPress, Qt::Key_Q, true);
     release(Qt::Key_Q);
-    QCOMPARE(m_sent,
-        (QStringList{"0: 360,640", "0: 360,640", "1: -1,-1", "0: 360,640", "1: -1,-1"}));
+    QCOMPARE(m_sent, (QStringList{"0: 360,640", "0: 360,640", "1: -1,-1", "0: 360,640", "1: -1,-1"}));
 }
 
 void TestOvAuxiliaryClick::passesAReleaseWithoutPressOn()

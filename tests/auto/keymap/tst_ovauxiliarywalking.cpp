@@ -161,7 +161,8 @@ void TestOvAuxiliaryWalking::directions()
     QCOMPARE(m_sent.last(), QString("1: -1,-1"));
 }
 
-// Before the first step the finger is where it went down, and a further press says so again, whatever the key.
+// Before the first step the finger is where it went down, and a further press says so again, whatever the
+// key.
 void TestOvAuxiliaryWalking::pressesAgainWhileInTheMiddle()
 {
     press(Qt::Key_Q);
