@@ -22,8 +22,8 @@
 
 #include <memory>
 
-// What the tests of the key mapping share: a window with a video view of 340 x 600 pixels, whose device has 720 x
-// 1280, a field that can take the focus, and a manager; keys are wired as a device window wires them.
+// What the tests of the key mapping share: a window with a video view of 340 x 600 pixels, whose device has
+// 720 x 1280, a field that can take the focus, and a manager; keys are wired as a device window wires them.
 class KeyMapFixture : public QObject
 {
 protected:
@@ -39,8 +39,8 @@ protected:
     void send(QEvent::Type type, int key, bool isAutoRepeat = false, quint32 scanCode = 0);
     void press(int key) { send(QEvent::KeyPress, key); }
     void release(int key) { send(QEvent::KeyRelease, key); }
-    static void mouse(QWidget *widget, QEvent::Type type, const QPoint &position,
-        Qt::MouseButtons held = Qt::LeftButton);
+    static void mouse(
+        QWidget *widget, QEvent::Type type, const QPoint &position, Qt::MouseButtons held = Qt::LeftButton);
 
     QStringList takeSent();
     QString toastText() const;
@@ -81,7 +81,6 @@ inline void KeyMapFixture::setUp()
 inline void KeyMapFixture::activate()
 {
     m_window->activateWindow();
-    QApplication::setActiveWindow(m_window.get());
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     m_view->setFocus();
     QTRY_VERIFY(m_view->hasFocus());

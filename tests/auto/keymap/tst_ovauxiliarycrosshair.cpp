@@ -152,19 +152,14 @@ void TestOvAuxiliaryCrosshair::keepsUpWithAFastMouse()
 {
     press(Qt::Key_R);
     takeSent();
-    for (int i = 0; i < 1000; ++i) {
-        moveBy(i < 500 ? QPoint(1, 0) : QPoint(-1, 1));
-        if (i % 50 == 0)
-            QCoreApplication::processEvents();
-    }
-    if (m_sent.size() != 1000) {
-        for (int i = 0; i < m_sent.size(); ++i)
-            fprintf(stderr, "%d %s\n", i, qPrintable(m_sent.at(i)));
-    }
+    for (int i = 0; i < 1000; ++i)
+        moveBy(i % 2 == 0 ? QPoint(1, 0) : QPoint(-1, 1));
     QCOMPARE(m_sent.size(), 1000);
     const QPointF end = m_key->touchPoint({720, 1280}); // 500 of 600 pixels down
     QCOMPARE(end, QPointF(360, 640 + 1280 * (500 / 600.0) * 1.9 * 0.25));
     QCOMPARE(m_sent.last(), QString("2: 360,%1").arg(static_cast<int>(end.y())));
+    QCoreApplication::processEvents(); // what the display has to tell about all this
+    QCOMPARE(m_sent.size(), 1000);
 }
 
 void TestOvAuxiliaryCrosshair::pullsThePointerBackIntoTheView()
