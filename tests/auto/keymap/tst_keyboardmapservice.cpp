@@ -256,12 +256,14 @@ void TestKeyboardMapService::save()
     m_manager->setCurrentMapId("17");
     QVariantMap scheme{{"key_transparency", 50}, {"key_size", 30}, {"show_key", true},
         {"show_key_desc", false}, {"screen_orientation", false}};
+    const int asked = m_server.requests().size();
     m_manager->saveCurrentScheme(scheme);
     const QString config
         = "[\n    {\n        \"edit\": false,\n        \"editShow\": \"\",\n        \"key\": "
           "true,\n        \"remark\": \"\",\n        \"x\": 3,\n        \"y\": 4\n    }\n]\n";
     QCOMPARE(scheme.value("config").toString(), config);
-    QTRY_COMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/actionMapConfig"));
+    QTRY_COMPARE(m_server.requests().size(), asked + 1);
+    QCOMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/actionMapConfig"));
     const QJsonObject sent{{"key_transparency", 50}, {"key_size", 30}, {"show_key", true},
         {"show_key_desc", false}, {"screen_orientation", false}, {"config", config}};
     QJsonObject body = sent;
