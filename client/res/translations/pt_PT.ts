@@ -253,7 +253,7 @@
     </message>
     <message>
         <source>Enter your scheme sharing code</source>
-        <translation>Introduza o código de partilha do esquema</translation>
+        <translation>Introduza o código do esquema</translation>
     </message>
     <message>
         <source>Close</source>

@@ -5,7 +5,7 @@
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
-        <translation>Выберите вспомогательную клавишу</translation>
+        <translation>Выберите тип клавиши</translation>
     </message>
     <message>
         <source>Click</source>
