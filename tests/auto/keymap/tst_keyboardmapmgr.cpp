@@ -124,7 +124,7 @@ void TestKeyboardMapMgr::writesKeys()
     first->placeAt({5, 6});
     first->setNote(QString::fromUtf8("Sprung \"hoch\" \u00fc"));
     make<OvAuxiliaryClick>("Q")->placeAt({7, 8});
-    QCOMPARE(m_manager->keysToJson(), QString::fromUtf8(R"([
+    const char *const wanted = R"([
     {
         "edit": true,
         "editShow": "",
@@ -160,7 +160,8 @@ void TestKeyboardMapMgr::writesKeys()
         "y": 2
     }
 ]
-)"));
+)";
+    QCOMPARE(m_manager->keysToJson(), QString::fromUtf8(wanted));
 }
 
 void TestKeyboardMapMgr::deletesKeys()

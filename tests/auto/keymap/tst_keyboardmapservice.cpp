@@ -143,14 +143,16 @@ void TestKeyboardMapService::selects()
 void TestKeyboardMapService::create()
 {
     m_server.setAnswer(R"({"code": 200, "data": {"map_id": "19"}})");
+    const int asked = m_server.requests().size();
+    QTest::ignoreMessage(QtWarningMsg, "the list of key-map schemes is no array"); // the next answer
     m_manager->onCreateMapConfig();
-    QTRY_COMPARE(m_manager->currentMapId(), QString("19"));
-    QCOMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/createMapConfig"));
-    QCOMPARE(m_server.requests().last().body.simplified(), QByteArray("{ }"));
+    QTRY_COMPARE(m_server.requests().size(), asked + 2);
+    QCOMPARE(m_manager->currentMapId(), QString("19"));
+    QCOMPARE(m_server.requests().at(asked).path, QByteArray("/apiv1/keyboard_map/createMapConfig"));
+    QCOMPARE(m_server.requests().at(asked).body.simplified(), QByteArray("{ }"));
+    QCOMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/mapConfigList"));
     QCOMPARE(toastText(), QString("Operated successfully"));
-    QTest::ignoreMessage(QtWarningMsg, "the list of key-map schemes is no array");
-    QTRY_COMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/mapConfigList"));
-    loadList();
+    loadList(); // answered after the other
 }
 
 void TestKeyboardMapService::share()
@@ -256,12 +258,14 @@ void TestKeyboardMapService::save()
     m_manager->setCurrentMapId("17");
     QVariantMap scheme{{"key_transparency", 50}, {"key_size", 30}, {"show_key", true},
         {"show_key_desc", false}, {"screen_orientation", false}};
+    const int asked = m_server.requests().size();
     m_manager->saveCurrentScheme(scheme);
     const QString config
         = "[\n    {\n        \"edit\": false,\n        \"editShow\": \"\",\n        \"key\": "
           "true,\n        \"remark\": \"\",\n        \"x\": 3,\n        \"y\": 4\n    }\n]\n";
     QCOMPARE(scheme.value("config").toString(), config);
-    QTRY_COMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/actionMapConfig"));
+    QTRY_COMPARE(m_server.requests().size(), asked + 1);
+    QCOMPARE(lastPath(), QByteArray("/apiv1/keyboard_map/actionMapConfig"));
     const QJsonObject sent{{"key_transparency", 50}, {"key_size", 30}, {"show_key", true},
         {"show_key_desc", false}, {"screen_orientation", false}, {"config", config}};
     QJsonObject body = sent;
