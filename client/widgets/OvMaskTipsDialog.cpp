@@ -144,9 +144,20 @@ void OvMaskTipsDialog::createBox()
 
 void OvMaskTipsDialog::setTexts()
 {
-    m_titleLabel->setText(tr("Hints"));
+    m_titleLabel->setText(m_title.isEmpty() ? tr("Hints") : m_title);
     m_closeButton->setText(tr("Close"));
     m_confirmButton->setText(tr("Confirm"));
+}
+
+void OvMaskTipsDialog::setTitle(const QString &title)
+{
+    m_title = title;
+    setTexts();
+}
+
+QString OvMaskTipsDialog::title() const
+{
+    return m_titleLabel->text();
 }
 
 void OvMaskTipsDialog::setText(const QString &text)

@@ -29,6 +29,9 @@ public:
     explicit OvMaskTipsDialog(QWidget *parent = nullptr);
     ~OvMaskTipsDialog() override;
 
+    // The heading, a plain text; "Hints" as long as none is set.
+    void setTitle(const QString &title);
+    QString title() const;
     // The question, a plain text.
     void setText(const QString &text);
     QString text() const;
@@ -63,6 +66,7 @@ private:
     void setMaskSize(const QSize &size);
     void takeRoundingOff();
 
+    QString m_title; // empty: the usual one
     QFrame *m_box; // children
     QLabel *m_titleLabel;
     QLabel *m_messageLabel;

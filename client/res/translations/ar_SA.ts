@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_SA" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>اختر مفتاحًا مساعدًا</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>نقر</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>الحركة بالمفاتيح</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>مؤشر التصويب</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>تلميحات المفاتيح</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>شفافية المفاتيح</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>حجم المفاتيح</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>إظهار المفاتيح عند دخول اللعبة</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>إظهار الملاحظات عند دخول اللعبة</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>الشرح التعليمي</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>جارٍ تحميل الشرح</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>تعذّر تحميل الشرح.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>تم</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>بدون مخطط</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>إعداد المفاتيح المسبق</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>إضافة مخطط</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>إعادة الضبط</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>تم نسخ رمز المشاركة</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>رمز المشاركة هو %1، ويمكنك إرساله إلى صديقك ليرفعه ويستخدمه</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>هذا المفتاح مستخدم بالفعل</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>تمت العملية بنجاح</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>تطبيق إعدادات المفاتيح بنقرة واحدة</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>إضافة ملاحظة للمفتاح</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>حساسية الفأرة</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>إعادة تسمية</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>مشاركة</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>إنشاء نسخة</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>حذف</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>تمت العملية بنجاح</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>رفع تخطيط المفاتيح</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>تنبيه</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>أدخل رمز مشاركة المخطط</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>تأكيد</translation>
     </message>
 </context>
 <context>

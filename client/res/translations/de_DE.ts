@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Hilfstaste auswählen</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Tippen</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Lauf-Joystick</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Fadenkreuz</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Tastenhinweise</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Tastengröße</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Tasten beim Spielstart anzeigen</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Notizen beim Spielstart anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Anleitung wird geladen</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Die Anleitung konnte nicht geladen werden.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Kein Schema verwenden</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Tastenbelegung</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Schema hinzufügen</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Freigabecode kopiert</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Der Freigabecode lautet %1. Sende ihn an Freunde, damit sie ihn hochladen und nutzen können</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Diese Taste ist bereits belegt</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Aktion erfolgreich</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Tastenbelegung mit einem Klick anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Tastennotiz hinzufügen</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Mausempfindlichkeit</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Teilen</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Kopie erstellen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Aktion erfolgreich</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Tastenbelegung hochladen</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Freigabecode des Schemas eingeben</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Please Select Auxiliary Key</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Click</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>keyboard walking</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>crosshair</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Key prompts</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Button transparency</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Key size</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Show buttons when entering the game</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Show notes when entering the game</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Loading the tutorial</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>The tutorial could not be loaded.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Done</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Not using the scheme</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Key Preset</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Add scheme</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Reset</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>The sharing code has copied successfully</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>The sharing code is %1, and can be sent to your friend to be uploaded for use</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>This Key Binding is Already in Use</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operated successfully</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Apply Key Binding with One Click</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Add Button Notes</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Mouse Sensitivity</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Share</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Create a copy</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operated successfully</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Upload keyboard layout</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Hints</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Enter your scheme sharing code</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirm</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es_ES" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Selecciona una tecla auxiliar</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick de marcha</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Punto de mira</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Indicadores de teclas</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Opacidad</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Tamaño de tecla</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Mostrar las teclas al entrar en el juego</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Mostrar las notas al entrar en el juego</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Cargando el tutorial</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>No se pudo cargar el tutorial.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Listo</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>No usar esquema</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Preajuste de teclas</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Añadir esquema</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Código para compartir copiado</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>El código para compartir es %1. Envíaselo a un amigo para que lo suba y lo use</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Esta tecla ya está asignada</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operación realizada</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Aplicar asignación de teclas con un clic</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Añadir nota a la tecla</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Sensibilidad del ratón</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Compartir</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Crear una copia</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operación realizada</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Subir disposición de teclas</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Introduce el código del esquema</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
     </message>
 </context>
 <context>

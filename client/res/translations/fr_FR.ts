@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Choisissez une touche auxiliaire</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick de marche</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Viseur</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Repères des touches</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Taille des touches</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Afficher les touches en entrant dans le jeu</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Afficher les notes en entrant dans le jeu</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutoriel</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Chargement du tutoriel</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Impossible de charger le tutoriel.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Aucun schéma</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Préréglage des touches</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Ajouter un schéma</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Code de partage copié</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Le code de partage est %1. Envoyez-le à un ami pour qu’il l’importe et l’utilise</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Cette touche est déjà utilisée</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Opération réussie</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Appliquer l’affectation des touches en un clic</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Ajouter une note</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Sensibilité de la souris</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Partager</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Créer une copie</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Opération réussie</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Importer une disposition</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Saisissez le code de partage du schéma</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmer</translation>
     </message>
 </context>
 <context>

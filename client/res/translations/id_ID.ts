@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Pilih tombol bantu</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Klik</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick jalan</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Bidikan</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Petunjuk tombol</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Opasitas tombol</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Ukuran tombol</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Tampilkan tombol saat masuk game</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Tampilkan catatan saat masuk game</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Memuat tutorial</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Tutorial tidak dapat dimuat.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Coba lagi</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Kembali</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Berikutnya</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Selesai</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Tanpa skema</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Preset tombol</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Tambah skema</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Segarkan</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Atur ulang</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Simpan</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Kode berbagi berhasil disalin</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Kode berbagi adalah %1. Kirim ke teman Anda untuk diunggah dan digunakan</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Tombol ini sudah digunakan</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operasi berhasil</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Terapkan pemetaan tombol dengan satu klik</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Tambah catatan tombol</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Sensitivitas mouse</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Ganti nama</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Bagikan</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Buat salinan</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Hapus</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operasi berhasil</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Unggah tata letak tombol</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Pemberitahuan</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Masukkan kode berbagi skema</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Tutup</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Konfirmasi</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Seleziona un tasto ausiliario</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clic</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick di movimento</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Mirino</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Suggerimenti dei tasti</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Opacità dei tasti</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Dimensione tasti</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Mostra i tasti all’avvio del gioco</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Mostra le note all’avvio del gioco</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Caricamento del tutorial</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Impossibile caricare il tutorial.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fine</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Nessuno schema</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Preset dei tasti</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Aggiungi schema</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Codice di condivisione copiato</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Il codice di condivisione è %1. Invialo a un amico perché lo carichi e lo usi</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Questo tasto è già assegnato</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operazione riuscita</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Applica l’assegnazione dei tasti con un clic</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Aggiungi nota al tasto</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Sensibilità mouse</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Condividi</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Crea una copia</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operazione riuscita</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Carica disposizione tasti</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Avviso</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Inserisci il codice dello schema</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Conferma</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja_JP" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>補助キーを選択してください</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>クリック</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>移動スティック</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>照準</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>キー表示</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>キーの不透明度</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>キーのサイズ</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>ゲーム開始時にキーを表示</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>ゲーム開始時にメモを表示</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>チュートリアル</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>チュートリアルを読み込み中</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>チュートリアルを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>プリセットを使用しない</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>キープリセット</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>プリセットを追加</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>共有コードをコピーしました</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>共有コードは %1 です。友だちに送ると、アップロードして使用できます</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>このキーはすでに使用されています</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作が完了しました</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>ワンクリックでキー割り当てを適用</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>キーのメモを追加</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>マウス感度</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>共有</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>コピーを作成</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作が完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>キー配置をアップロード</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>プリセットの共有コードを入力</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確認</translation>
     </message>
 </context>
 <context>

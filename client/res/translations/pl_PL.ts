@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl_PL" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Wybierz klawisz pomocniczy</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Kliknięcie</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick ruchu</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Celownik</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Podpowiedzi klawiszy</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Krycie klawiszy</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Rozmiar klawiszy</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Pokaż klawisze po wejściu do gry</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Pokaż notatki po wejściu do gry</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Samouczek</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Wczytywanie samouczka</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Nie udało się wczytać samouczka.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Dalej</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Gotowe</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Bez schematu</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Zestaw klawiszy</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Dodaj schemat</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Odśwież</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Resetuj</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Kod udostępniania skopiowany</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Kod udostępniania to %1. Wyślij go znajomemu, aby mógł go wczytać i używać</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Ten klawisz jest już używany</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operacja zakończona pomyślnie</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Zastosuj przypisanie klawiszy jednym kliknięciem</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Dodaj notatkę klawisza</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Czułość myszy</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Udostępnij</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Utwórz kopię</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operacja zakończona pomyślnie</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Prześlij układ klawiszy</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Informacja</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Wpisz kod udostępniania schematu</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Potwierdź</translation>
     </message>
 </context>
 <context>

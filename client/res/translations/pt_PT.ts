@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Selecione uma tecla auxiliar</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Clique</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Joystick de andar</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Mira</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Indicações das teclas</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Opacidade</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Tamanho da tecla</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Mostrar as teclas ao entrar no jogo</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Mostrar as notas ao entrar no jogo</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>A carregar o tutorial</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Não foi possível carregar o tutorial.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Concluído</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Não usar esquema</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Predefinição de teclas</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Adicionar esquema</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Repor</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Código de partilha copiado</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>O código de partilha é %1. Envie-o a um amigo para que o carregue e use</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Esta tecla já está atribuída</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operação concluída</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Aplicar atribuição de teclas com um clique</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Adicionar nota à tecla</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Sensibilidade do rato</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Mudar o nome</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Partilhar</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Criar uma cópia</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Operação concluída</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Carregar disposição de teclas</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Introduza o código do esquema</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Yardımcı tuş seçin</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Tıklama</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Yürüme kolu</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Nişangâh</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Tuş ipuçları</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Tuş opaklığı</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Tuş boyutu</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Oyuna girince tuşları göster</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Oyuna girince notları göster</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Eğitim</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Eğitim yükleniyor</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Eğitim yüklenemedi.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Tekrar dene</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Bitti</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Şema kullanma</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Tuş ön ayarı</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Şema ekle</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Yenile</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Sıfırla</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Paylaşım kodu kopyalandı</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Paylaşım kodu: %1. Arkadaşınıza gönderin, yükleyip kullanabilir</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Bu tuş zaten kullanılıyor</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>İşlem başarılı</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Tuş atamasını tek tıkla uygula</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Tuş notu ekle</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Fare hassasiyeti</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Yeniden adlandır</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Paylaş</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Kopyasını oluştur</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>İşlem başarılı</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Tuş düzeni yükle</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Bilgi</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Şemanın paylaşım kodunu girin</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Onayla</translation>
     </message>
 </context>
 <context>

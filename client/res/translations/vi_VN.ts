@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="vi_VN" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>Chọn phím hỗ trợ</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>Nhấp</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>Cần di chuyển</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>Tâm ngắm</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>Gợi ý phím</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>Độ mờ phím</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>Cỡ phím</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>Hiện phím khi vào trò chơi</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>Hiện ghi chú khi vào trò chơi</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Hướng dẫn</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>Đang tải hướng dẫn</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>Không thể tải hướng dẫn.</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Thử lại</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Quay lại</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Tiếp theo</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Xong</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>Không dùng sơ đồ</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>Cài đặt sẵn phím</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>Thêm sơ đồ</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Làm mới</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Đặt lại</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Lưu</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>Đã sao chép mã chia sẻ</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>Mã chia sẻ là %1. Hãy gửi cho bạn bè để tải lên và sử dụng</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>Phím này đã được sử dụng</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Thao tác thành công</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>Áp dụng gán phím bằng một cú nhấp</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>Thêm ghi chú phím</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>Độ nhạy chuột</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>Đổi tên</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Chia sẻ</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>Tạo bản sao</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Xóa</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>Thao tác thành công</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>Tải lên bố cục phím</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>Lưu ý</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>Nhập mã chia sẻ sơ đồ</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Đóng</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Xác nhận</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>请选择辅助按键</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>点击</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>键盘行走</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>准星</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>按键提示</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>按键不透明度</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>按键大小</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>进入游戏时显示按键</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>进入游戏时显示备注</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>教程</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>正在加载教程</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>教程加载失败。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>上一步</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>不使用方案</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>按键预设</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>添加方案</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重置</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>分享码复制成功</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>分享码为 %1，可发送给好友上传使用</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>该按键已被使用</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作成功</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>一键应用按键</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>添加按键备注</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>鼠标灵敏度</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>分享</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>创建副本</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作成功</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>上传键位</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>请输入方案分享码</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>确定</translation>
     </message>
 </context>
 <context>

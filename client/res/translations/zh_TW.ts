@@ -2,6 +2,122 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>KeyMapControls</name>
+    <message>
+        <source>Please Select Auxiliary Key</source>
+        <translation>請選擇輔助按鍵</translation>
+    </message>
+    <message>
+        <source>Click</source>
+        <translation>點擊</translation>
+    </message>
+    <message>
+        <source>keyboard walking</source>
+        <translation>鍵盤行走</translation>
+    </message>
+    <message>
+        <source>crosshair</source>
+        <translation>準星</translation>
+    </message>
+    <message>
+        <source>Key prompts</source>
+        <translation>按鍵提示</translation>
+    </message>
+    <message>
+        <source>Button transparency</source>
+        <translation>按鍵不透明度</translation>
+    </message>
+    <message>
+        <source>Key size</source>
+        <translation>按鍵大小</translation>
+    </message>
+    <message>
+        <source>Show buttons when entering the game</source>
+        <translation>進入遊戲時顯示按鍵</translation>
+    </message>
+    <message>
+        <source>Show notes when entering the game</source>
+        <translation>進入遊戲時顯示備註</translation>
+    </message>
+</context>
+<context>
+    <name>KeyMapGuide</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>教學</translation>
+    </message>
+    <message>
+        <source>Loading the tutorial</source>
+        <translation>正在載入教學</translation>
+    </message>
+    <message>
+        <source>The tutorial could not be loaded.</source>
+        <translation>教學載入失敗。</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重試</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>上一步</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一步</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完成</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapEditor</name>
+    <message>
+        <source>Not using the scheme</source>
+        <translation>不使用方案</translation>
+    </message>
+    <message>
+        <source>Key Preset</source>
+        <translation>按鍵預設</translation>
+    </message>
+    <message>
+        <source>Add scheme</source>
+        <translation>新增方案</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>重設</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>The sharing code has copied successfully</source>
+        <translation>分享碼複製成功</translation>
+    </message>
+    <message>
+        <source>The sharing code is %1, and can be sent to your friend to be uploaded for use</source>
+        <translation>分享碼為 %1，可傳送給好友上傳使用</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardMapMgr</name>
+    <message>
+        <source>This Key Binding is Already in Use</source>
+        <translation>該按鍵已被使用</translation>
+    </message>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作成功</translation>
+    </message>
+</context>
+<context>
     <name>LoadingPage</name>
     <message>
         <source>Initialising</source>
@@ -37,6 +153,17 @@
     <message>
         <source>Apply Key Binding with One Click</source>
         <translation>一鍵套用按鍵設定</translation>
+    </message>
+</context>
+<context>
+    <name>OvAuxiliaryKeyEditor</name>
+    <message>
+        <source>Add Button Notes</source>
+        <translation>新增按鍵備註</translation>
+    </message>
+    <message>
+        <source>Mouse Sensitivity</source>
+        <translation>滑鼠靈敏度</translation>
     </message>
 </context>
 <context>
@@ -86,6 +213,55 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeBox</name>
+    <message>
+        <source>Rename</source>
+        <translation>重新命名</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>分享</translation>
+    </message>
+    <message>
+        <source>Create a copy</source>
+        <translation>建立副本</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>刪除</translation>
+    </message>
+</context>
+<context>
+    <name>SchemeImporter</name>
+    <message>
+        <source>Operated successfully</source>
+        <translation>操作成功</translation>
+    </message>
+</context>
+<context>
+    <name>ShareConfigDlg</name>
+    <message>
+        <source>Upload keyboard layout</source>
+        <translation>上傳鍵位</translation>
+    </message>
+    <message>
+        <source>Hints</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Enter your scheme sharing code</source>
+        <translation>請輸入方案分享碼</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>確定</translation>
     </message>
 </context>
 <context>

@@ -23,7 +23,10 @@ void TestIcons::icons_data()
     for (const char *path : {":/icon/svg/emitHome.svg", ":/icon/svg/volumeUp.svg",
              ":/icon/svg/volumeDown.svg", ":/icon/svg/snapshot.svg", ":icon/svg/switchScreen.svg",
              ":icon/svg/key.svg", ":icon/svg/useLastConfig.svg", ":/icon/svg/switchScreen.svg",
-             ":/icon/svg/key.svg", ":/icon/svg/useLastConfig.svg", ":/icon/svg/arrowDown.svg"})
+             ":/icon/svg/key.svg", ":/icon/svg/useLastConfig.svg", ":/icon/svg/arrowDown.svg",
+             ":/icon/svg/addConfig.svg", ":/icon/svg/refreshConfigList.svg", ":icon/svg/option_click.svg",
+             ":icon/svg/option_walking.svg", ":icon/svg/option_crosshair.svg", ":/icon/svg/optionEdit.svg",
+             ":/icon/svg/optionShare.svg", ":/icon/svg/optionCopy.svg", ":/icon/svg/optionDelete.svg"})
         QTest::newRow(path) << QString::fromLatin1(path);
 }
 
@@ -52,7 +55,9 @@ void TestIcons::icons()
 void TestIcons::family()
 {
     for (const char *name :
-        {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key", "useLastConfig"}) {
+        {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key", "useLastConfig", "addConfig",
+            "refreshConfigList", "option_click", "option_walking", "option_crosshair", "optionEdit",
+            "optionShare", "optionCopy", "optionDelete"}) {
         QFile file(QStringLiteral(":/icon/svg/%1.svg").arg(QLatin1String(name)));
         QVERIFY2(file.open(QFile::ReadOnly), name);
         QVERIFY2(file.readAll().contains(
