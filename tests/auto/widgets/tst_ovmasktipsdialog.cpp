@@ -118,6 +118,11 @@ void TestOvMaskTipsDialog::texts()
     const QLabel *title = window.label("titleLabel");
     const QLabel *message = window.label("messageLabel");
     QCOMPARE(title->text(), QStringLiteral("Hints"));
+    QCOMPARE(window.dialog->title(), title->text());
+    window.dialog->setTitle(QStringLiteral("Copied"));
+    QCOMPARE(title->text(), QStringLiteral("Copied"));
+    window.dialog->setTitle(QString());
+    QCOMPARE(title->text(), QStringLiteral("Hints"));
     QCOMPARE(title->font().pixelSize(), 18);
     QCOMPARE(title->palette().color(QPalette::WindowText), QColor("#303133"));
     QCOMPARE(message->text(), QStringLiteral("Do you want to renew?"));
