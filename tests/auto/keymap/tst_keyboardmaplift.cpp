@@ -28,6 +28,7 @@ private:
     OvAuxiliaryClick *m_click = nullptr;
     OvAuxiliaryWalking *m_walking = nullptr;
     OvAuxiliaryCrosshair *m_crosshair = nullptr;
+    QMap<int, QVector<int>> m_actions; // of each kind of key
     QMap<QObject *, int> m_down; // what each key said last
 };
 
@@ -86,20 +87,20 @@ void TestKeyboardMapLift::lifts()
     QFETCH(QString, what);
     const QPoint before = m_window->mapToGlobal(QPoint(500, 300));
     QCursor::setPos(before);
-    QMap<int, QVector<int>> actions; // of each kind of key
+    m_actions.clear();
     for (OvAuxiliaryKey *key : m_manager->keys()) {
         connect(key, &OvAuxiliaryKey::sigAuxiliaryKeyAction, this,
-            [&actions, type = key->type()](int action) { actions[type].append(action); });
+            [this, type = key->type()](int action) { m_actions[type].append(action); });
     }
     press(Qt::Key_Q);
     press(Qt::Key_D);
     press(Qt::Key_R);
     happen(what);
     const QVector<int> downAndUp{0, 1};
-    QCOMPARE(actions.value(0), downAndUp);
-    QCOMPARE(actions.value(1).last(), 1);
-    QCOMPARE(actions.value(1).count(1), 1);
-    QCOMPARE(actions.value(2), downAndUp);
+    QCOMPARE(m_actions.value(0), downAndUp);
+    QCOMPARE(m_actions.value(1).last(), 1);
+    QCOMPARE(m_actions.value(1).count(1), 1);
+    QCOMPARE(m_actions.value(2), downAndUp);
     QCOMPARE(m_sent.last(), QString("1: -1,-1"));
     QCOMPARE(QCursor::pos(), before);
     if (what == "view destroyed")
