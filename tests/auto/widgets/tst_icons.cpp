@@ -54,10 +54,9 @@ void TestIcons::icons()
 // One pen for all, so that they look as one set.
 void TestIcons::family()
 {
-    for (const char *name :
-        {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key", "useLastConfig", "addConfig",
-            "refreshConfigList", "option_click", "option_walking", "option_crosshair", "optionEdit",
-            "optionShare", "optionCopy", "optionDelete"}) {
+    for (const char *name : {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key",
+             "useLastConfig", "addConfig", "refreshConfigList", "option_click", "option_walking",
+             "option_crosshair", "optionEdit", "optionShare", "optionCopy", "optionDelete"}) {
         QFile file(QStringLiteral(":/icon/svg/%1.svg").arg(QLatin1String(name)));
         QVERIFY2(file.open(QFile::ReadOnly), name);
         QVERIFY2(file.readAll().contains(
