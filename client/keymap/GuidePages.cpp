@@ -25,7 +25,8 @@ GuidePages GuidePages::fromJson(const QJsonValue &data)
     GuidePages guide;
     const QJsonObject object = data.toObject();
     guide.title = object.value(QLatin1String("title")).toString();
-    for (const QJsonValue entry : object.value(QLatin1String("pages")).toArray()) {
+    const QJsonArray pages = object.value(QLatin1String("pages")).toArray();
+    for (const QJsonValue &entry : pages) {
         const QJsonObject page = entry.toObject();
         const QString title = page.value(QLatin1String("title")).toString();
         const QString text = page.value(QLatin1String("text")).toString();

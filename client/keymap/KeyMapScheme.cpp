@@ -86,7 +86,8 @@ QVector<KeyMapScheme::Key> keysOf(const QByteArray &json)
         return {};
     }
     QVector<KeyMapScheme::Key> keys;
-    for (const QJsonValue entry : document.array()) {
+    const QJsonArray entries = document.array();
+    for (const QJsonValue &entry : entries) {
         if (keys.size() >= MostKeys) {
             qWarning() << "a key-mapping scheme has more than" << MostKeys << "keys, the others are left out";
             break;

@@ -309,7 +309,8 @@ void KeyboardMapEditor::onUpdateComboBox()
 void KeyboardMapEditor::fillRows()
 {
     m_schemeBox->clear();
-    for (const QJsonValue entry : m_manager->mapConfigs()) {
+    const QJsonArray schemes = m_manager->mapConfigs();
+    for (const QJsonValue &entry : schemes) {
         const QJsonObject scheme = entry.toObject();
         const SchemeBox::Row row = m_schemeBox->addScheme(
             scheme.value(Member::mapId).toVariant().toString(), scheme.value(Member::mapName).toString());

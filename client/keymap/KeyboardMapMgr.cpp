@@ -24,13 +24,13 @@ constexpr std::chrono::milliseconds RefreshDelay{500};
 constexpr double NoFinger = -1.0;
 
 // Members of requests and schemes.
-constexpr QLatin1String MapId("map_id");
-constexpr QLatin1String MapName("map_name");
-constexpr QLatin1String ActionType("action_type");
-constexpr QLatin1String Config("config");
+const QLatin1String MapId("map_id");
+const QLatin1String MapName("map_name");
+const QLatin1String ActionType("action_type");
+const QLatin1String Config("config");
 
 // Of the settings file.
-constexpr QLatin1String LocalCopy("keyboardmap_config");
+const QLatin1String LocalCopy("keyboardmap_config");
 
 QString endpoint(const char *name)
 {
@@ -89,14 +89,16 @@ void KeyboardMapMgr::setComboBoxUpdating(bool isUpdating)
 void KeyboardMapMgr::setShowKeys(bool areShown)
 {
     m_showKeys = areShown;
-    for (OvAuxiliaryKey *key : keys())
+    const QVector<OvAuxiliaryKey *> all = keys();
+    for (OvAuxiliaryKey *key : all)
         key->onShownChanged();
 }
 
 void KeyboardMapMgr::setShowKeyNotes(bool areShown)
 {
     m_showKeyNotes = areShown;
-    for (OvAuxiliaryKey *key : keys())
+    const QVector<OvAuxiliaryKey *> all = keys();
+    for (OvAuxiliaryKey *key : all)
         key->onShownChanged();
 }
 
@@ -211,7 +213,8 @@ void KeyboardMapMgr::onKeyDeleteBtnClicked()
 
 void KeyboardMapMgr::relayoutKeys()
 {
-    for (OvAuxiliaryKey *key : keys())
+    const QVector<OvAuxiliaryKey *> all = keys();
+    for (OvAuxiliaryKey *key : all)
         key->relayout();
 }
 
@@ -228,7 +231,8 @@ void KeyboardMapMgr::clearKeys()
 
 void KeyboardMapMgr::liftFingers()
 {
-    for (OvAuxiliaryKey *key : keys())
+    const QVector<OvAuxiliaryKey *> all = keys();
+    for (OvAuxiliaryKey *key : all)
         key->liftFinger();
 }
 
@@ -260,7 +264,8 @@ void KeyboardMapMgr::collectTouchPoints(QVector<int> &xs, QVector<int> &ys, QSiz
 QString KeyboardMapMgr::keysToJson() const
 {
     QJsonArray array;
-    for (const OvAuxiliaryKey *key : keys()) {
+    const QVector<OvAuxiliaryKey *> all = keys();
+    for (const OvAuxiliaryKey *key : all) {
         QJsonObject object = toJson(*key);
         if (const auto *crosshair = qobject_cast<const OvAuxiliaryCrosshair *>(key)) {
             object.insert(QStringLiteral("isLockKey"), true);
@@ -343,7 +348,7 @@ void KeyboardMapMgr::onCreateMapConfig()
 }
 
 // A new name is shown before the service has it.
-void KeyboardMapMgr::onActionMapConfig(QString type, QVariantMap mapConfig)
+void KeyboardMapMgr::onActionMapConfig(QString type, const QVariantMap &mapConfig)
 {
     QJsonObject body{{MapId, m_currentMapId}, {ActionType, type}};
     for (auto entry = mapConfig.cbegin(); entry != mapConfig.cend(); ++entry)

@@ -115,7 +115,7 @@ public slots:
     void onCreateMapConfig();
     // Changes a scheme: `type` is "update", "copy" or "delete". `mapConfig`: members of the request besides,
     // of which a "map_id" names another scheme than the current one.
-    void onActionMapConfig(QString type, QVariantMap mapConfig);
+    void onActionMapConfig(QString type, const QVariantMap &mapConfig);
     // Shares the current scheme.
     void onShareMapConfig();
     // A row was selected: that scheme is the current one, or none for what is not in the list.

@@ -18,7 +18,7 @@ public:
 
 signals:
     // The same action as the base's signal of this name, which follows it: a receiver connects one of them.
-    void sigAuxiliaryKeyAction(int action);
+    void sigAuxiliaryKeyAction(int action); // clazy:exclude=overridden-signal
 
 protected:
     bool playEvent(QEvent *event) override;

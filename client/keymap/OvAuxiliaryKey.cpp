@@ -225,6 +225,7 @@ bool OvAuxiliaryKey::isBoundTo(const QKeyEvent &event) const
 
 bool OvAuxiliaryKey::isSeen() const
 {
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall): in the constructor the base's own is meant
     if (isRecording())
         return true;
     if (m_type == keymap::CrosshairKey)
@@ -235,6 +236,7 @@ bool OvAuxiliaryKey::isSeen() const
 void OvAuxiliaryKey::applyAlpha(int alpha)
 {
     m_alpha = qBound(0, alpha, FullAlpha);
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall): in the constructor the base's own is meant
     styleLabels();
     update();
 }
@@ -256,6 +258,7 @@ void OvAuxiliaryKey::applySize(int size)
     m_keyLabel->setFixedHeight(bounded);
     resize(side, side);
     fitKeyLabel();
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall): in the constructor the base's own is meant
     relayout();
 }
 

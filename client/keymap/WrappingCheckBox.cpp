@@ -17,7 +17,7 @@ constexpr double TickPen = 2.0;
 constexpr double DisabledOpacity = 0.35;
 constexpr QRgb Accent = qRgb(0x07, 0xCC, 0xFB);
 constexpr QRgb Edge = qRgb(0x90, 0x93, 0x99);
-constexpr int TextFlags = Qt::TextWordWrap | Qt::AlignLeft;
+constexpr int TextFlags = static_cast<int>(Qt::TextWordWrap) | static_cast<int>(Qt::AlignLeft);
 } // namespace Look
 
 } // namespace
@@ -77,8 +77,8 @@ void WrappingCheckBox::paintEvent(QPaintEvent *)
     const QRect textSize = textRect(width());
     const int textTop = qMax(0, (height() - textSize.height()) / 2);
     const int lineHeight = qMin(fontMetrics().height(), height());
-    const QRectF box(
-        0.5, textTop + (lineHeight - Look::BoxExtent) / 2 + 0.5, Look::BoxExtent - 1, Look::BoxExtent - 1);
+    const int boxTop = textTop + (lineHeight - Look::BoxExtent) / 2;
+    const QRectF box(0.5, boxTop + 0.5, Look::BoxExtent - 1, Look::BoxExtent - 1);
     const bool isHot = isChecked() || (isEnabled() && underMouse());
     painter.setPen(QColor::fromRgb(isHot ? Look::Accent : Look::Edge));
     painter.setBrush(isChecked() ? QColor::fromRgb(Look::Accent) : QColor(Qt::transparent));
