@@ -47,12 +47,21 @@ function(orvane_set_timeout test seconds)
     set_tests_properties(${test} PROPERTIES TIMEOUT ${seconds})
 endfunction()
 
+# A test program's own sources are not optimised in a release build: that halves the time they compile, and what they
+# test is built as it ships.
+function(orvane_compile_fast target)
+    if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+        target_compile_options(${target} PRIVATE "$<$<CONFIG:RelWithDebInfo>:-O0;-g1>")
+    endif()
+endfunction()
+
 # orvane_add_gtest(NAME <test> LABELS <labels> SOURCES <files> LIBS <libraries>): a GoogleTest program
 # run by CTest as one test.
 function(orvane_add_gtest)
     cmake_parse_arguments(T "" "NAME;TIMEOUT" "LABELS;SOURCES;LIBS" ${ARGN})
     find_package(GTest REQUIRED)
     add_executable(${T_NAME} ${T_SOURCES})
+    orvane_compile_fast(${T_NAME})
     target_link_libraries(${T_NAME} PRIVATE ${T_LIBS} GTest::gmock GTest::gtest_main)
     add_test(NAME ${T_NAME} COMMAND ${T_NAME})
     orvane_set_timeout(${T_NAME} "${T_TIMEOUT}")
