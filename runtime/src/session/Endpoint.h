@@ -15,6 +15,12 @@ struct Endpoint
 
     // Host and port as a URL has them, "[::1]:8181".
     std::string authority() const;
+
+    bool operator==(const Endpoint &other) const
+    {
+        return port == other.port && tls == other.tls && host == other.host;
+    }
+    bool operator!=(const Endpoint &other) const { return !(*this == other); }
 };
 
 // Takes an address as the service gives it apart: a host name or IP address (IPv6 with or without brackets),

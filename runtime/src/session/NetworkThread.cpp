@@ -71,6 +71,18 @@ bool NetworkThread::add(const std::shared_ptr<Session> &session)
     return true;
 }
 
+std::vector<std::shared_ptr<Session>> NetworkThread::sessions() const
+{
+    std::vector<std::shared_ptr<Session>> living;
+    const std::lock_guard lock(m_mutex);
+    living.reserve(m_sessions.size());
+    for (const auto &weak : m_sessions) {
+        if (auto session = weak.lock())
+            living.push_back(std::move(session));
+    }
+    return living;
+}
+
 void NetworkThread::run()
 {
     {

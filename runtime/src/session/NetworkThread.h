@@ -37,6 +37,8 @@ public:
     // Takes a session that starts into the list of those to end with the thread. Returns whether the thread
     // runs.
     bool add(const std::shared_ptr<Session> &session);
+    // Those that were added and still live.
+    std::vector<std::shared_ptr<Session>> sessions() const;
 
     // Runs `work` on the network thread as soon as possible; drops it when the thread does not run.
     template <typename Work>

@@ -5,8 +5,9 @@
 
 namespace swplay {
 
-ReconnectPolicy::ReconnectPolicy(Random random)
+ReconnectPolicy::ReconnectPolicy(Random random, std::chrono::milliseconds firstDelay)
     : m_random(std::move(random))
+    , m_firstDelay(firstDelay)
 { }
 
 void ReconnectPolicy::signedIn(TimePoint now)
@@ -19,7 +20,7 @@ void ReconnectPolicy::lost(TimePoint now)
     if (now - m_signedInAt < StableAfter)
         return;
     m_triedAtOnce = false;
-    m_step = FirstDelay;
+    m_step = m_firstDelay;
 }
 
 std::chrono::milliseconds ReconnectPolicy::nextDelay(bool atOnceAllowed)

@@ -21,7 +21,8 @@ public:
     // A connection that lasted less than this was not a good one: it does not earn a try at once.
     static constexpr std::chrono::milliseconds StableAfter{2000};
 
-    explicit ReconnectPolicy(Random random);
+    // `firstDelay`: the first step of the back-off; tests take another.
+    explicit ReconnectPolicy(Random random, std::chrono::milliseconds firstDelay = FirstDelay);
 
     // The gateway accepted the login.
     void signedIn(TimePoint now);
@@ -34,9 +35,10 @@ public:
 
 private:
     Random m_random;
+    std::chrono::milliseconds m_firstDelay;
     TimePoint m_signedInAt;
     bool m_triedAtOnce = false;
-    std::chrono::milliseconds m_step = FirstDelay;
+    std::chrono::milliseconds m_step = m_firstDelay;
 };
 
 } // namespace swplay

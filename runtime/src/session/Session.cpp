@@ -25,7 +25,7 @@ Session::Session(
     , m_timings(timings)
     , m_retryTimer(NetworkThread::instance().io())
     , m_tickTimer(NetworkThread::instance().io())
-    , m_policy(std::move(random))
+    , m_policy(std::move(random), timings.firstRetry)
     , m_watch(timings.silence, timings.write)
 { }
 
@@ -367,6 +367,7 @@ void Session::connectionLost(ConnectionLoss loss, const std::string &reason)
 // What holds for the end of every connection.
 void Session::leaveConnection()
 {
+    m_wasUnreachable = false;
     m_tickTimer.cancel();
     if (m_connection) {
         m_connection->drop();
@@ -391,16 +392,52 @@ void Session::retry(Retry when, const std::string &reason)
         return;
     leaveConnection();
     m_phase = Phase::Waiting;
+    m_waitsForGateway = when == Retry::AtOnce;
     const auto delay = m_policy.nextDelay(when == Retry::AtOnce);
     note("connection lost (" + reason + "); next try in " + std::to_string(delay.count()) + " ms");
     m_retryTimer.expires_after(delay);
     m_retryTimer.async_wait([self = shared_from_this()](const boost::system::error_code &error) {
-        if (error || self->m_phase != Phase::Waiting)
-            return;
-        const int attempt = ++self->m_attempt;
-        self->tell([attempt](SWDataSourceListener &listener) { listener.onReconnecting(attempt); });
-        self->connect();
+        if (!error)
+            self->reconnect();
     });
+}
+
+void Session::reconnect()
+{
+    if (m_phase != Phase::Waiting)
+        return;
+    const int attempt = ++m_attempt;
+    tell([attempt](SWDataSourceListener &listener) { listener.onReconnecting(attempt); });
+    connect();
+}
+
+void Session::gatewayIsBack(const Endpoint &gateway)
+{
+    if (m_phase != Phase::Waiting || !m_waitsForGateway)
+        return;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_login->endpoint != gateway)
+            return;
+    }
+    if (m_retryTimer.cancel() > 0) // otherwise the try is on its way already
+        reconnect();
+}
+
+// A group of devices that lost its gateway comes back with the first of its sessions that gets through,
+// instead of one by one as their waits end.
+void Session::tellOthersThatGatewayIsBack()
+{
+    Endpoint gateway;
+    {
+        const std::lock_guard lock(m_mutex);
+        gateway = m_login->endpoint;
+    }
+    const auto sessions = NetworkThread::instance().sessions();
+    for (const auto &session : sessions) {
+        if (session.get() != this)
+            session->gatewayIsBack(gateway);
+    }
 }
 
 // The last step of every session.
@@ -465,6 +502,8 @@ void Session::tick()
     startTicking();
     if (m_phase != Phase::SignedIn)
         return;
+    if (std::exchange(m_wasUnreachable, false))
+        tellOthersThatGatewayIsBack();
     m_pingDue = true;
     flush();
     if (m_phase != Phase::SignedIn)

@@ -48,6 +48,8 @@ struct SessionTimings
     std::chrono::milliseconds silence{4000};
     // For the largest camera picture over a slow uplink.
     std::chrono::milliseconds write{30000};
+    // The first wait after a try at once has failed.
+    std::chrono::milliseconds firstRetry = ReconnectPolicy::FirstDelay;
 };
 
 // One session with a device: it connects, signs in, hands video to the sink and events to the listener, sends
@@ -106,6 +108,10 @@ public:
     // Ends the session without telling the listener. Does nothing after the end.
     void shutDown();
 
+    // Another session has got through to this gateway: a session that waits to try it again tries at once,
+    // unless the gateway itself has asked for time.
+    void gatewayIsBack(const Endpoint &gateway);
+
     // ConnectionEvents
     void connectionOpened() override;
     void connectionMessage(const void *data, std::size_t size, bool text) override;
@@ -132,12 +138,14 @@ private:
     void flush();
     std::optional<wire::StreamMessage> nextMessage();
     void retry(Retry when, const std::string &reason);
+    void reconnect();
     void leaveConnection();
     void finish();
     void end(int disconnectReason, const std::string &reason);
     void endOnProtocolError(const std::string &reason);
     void startTicking();
     void tick();
+    void tellOthersThatGatewayIsBack();
     // Calls the listener, unless there is none or the session was stopped.
     template <typename Call>
     void tell(Call &&call)
@@ -198,6 +206,8 @@ private:
     bool m_ackDue = false;
     bool m_everSignedIn = false;
     int m_attempt = 0; // tries since the connection was lost
+    bool m_waitsForGateway = false; // in Waiting: until it can be reached, not for a time it has asked for
+    bool m_wasUnreachable = false; // signed in after tries that failed; the others are to be told
     int m_rotation = 0; // quarter turns, as last told
     int m_levelRow = 0;
 };

@@ -111,6 +111,7 @@ void Session::handleSignedIn(const wire::LoginResult &result)
 {
     m_phase = Phase::SignedIn;
     m_policy.signedIn(steady_clock::now());
+    m_wasUnreachable = m_attempt > 0;
     m_attempt = 0;
     m_newestFrame = 0;
     m_pingDue = true;

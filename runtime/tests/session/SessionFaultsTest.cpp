@@ -80,6 +80,78 @@ TEST_F(SessionFaults, GoesOnTryingAndBacksOff)
     session->stop();
 }
 
+namespace {
+
+// A session whose waits are hours.
+struct PatientSession
+{
+    explicit PatientSession(std::uint16_t port)
+    {
+        SessionTimings timings;
+        timings.firstRetry = std::chrono::hours(1);
+        session = std::make_shared<Session>(2, &listener, timings);
+        LoginParameters login;
+        login.endpoint = {"127.0.0.1", port, false};
+        login.sessionId = "the patient";
+        session->setLogin(login);
+    }
+    ~PatientSession() { session->stop(); }
+
+    RecordingListener listener;
+    std::shared_ptr<Session> session;
+};
+
+} // namespace
+
+TEST_F(SessionFaults, GatewayThatIsBackForOneIsBackForAll)
+{
+    std::uint16_t port = 0;
+    {
+        const TestGateway gone;
+        port = gone.port();
+    }
+    PatientSession patient(port);
+    patient.session->start();
+    EXPECT_EQ(patient.listener.next(), "reconnecting 1"); // at once; it waits for an hour then
+    makeSession();
+    setLogin(port);
+    session->start();
+    EXPECT_EQ(listener.next(), "reconnecting 1");
+    TestGateway late(TestGateway::Kind::Plain, port);
+    peer = late.accept();
+    ASSERT_TRUE(peer);
+    EXPECT_EQ(peer->signIn().session_id(), "session-7");
+    const auto other = late.accept();
+    ASSERT_TRUE(other);
+    EXPECT_EQ(patient.listener.next(), "reconnecting 2");
+    EXPECT_EQ(other->signIn().session_id(), "the patient");
+    EXPECT_EQ(patient.listener.next(), "connected");
+    session->stop();
+}
+
+TEST_F(SessionFaults, GatewayThatAskedForTimeIsLeftItsTime)
+{
+    PatientSession patient(gateway.port());
+    patient.session->start();
+    const auto busy = gateway.accept();
+    ASSERT_TRUE(busy);
+    ASSERT_TRUE(busy->next());
+    busy->send(loginResult(wire::LoginResult::BUSY));
+    busy->waitForEnd();
+    connect();
+    peer->cut();
+    EXPECT_EQ(listener.next(), "reconnecting 1");
+    peer = gateway.accept();
+    ASSERT_TRUE(peer);
+    peer->answersPings = false;
+    peer->signIn();
+    for (int i = 0; i < 2;
+         ++i) // the second follows a look after the gateway, and by then the others were told
+        EXPECT_TRUE(peer->next(StreamMessage::kPing));
+    EXPECT_TRUE(patient.listener.isEmpty());
+    expectNoFurtherConnection();
+}
+
 TEST_F(SessionFaults, BusyDeviceIsTriedAgainLater)
 {
     makeSession();
