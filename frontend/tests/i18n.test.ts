@@ -4,26 +4,20 @@ import { Texts } from '@/i18n'
 import { en } from '@/i18n/en'
 import { findLanguage, LANGUAGES, pluralForm } from '@/i18n/languages'
 import { loadTexts } from '@/i18n/loadTexts'
-import { loadTestTexts } from './support/mountApp'
+import { messageOf } from '@/i18n/messages'
+import { namedTexts, packTexts, unpackTexts } from '@/i18n/texts'
+import { loadTestTexts, textTree } from './support/mountApp'
 
-interface Tree {
-  [key: string]: string | Tree
-}
-
-function flat(tree: Tree, path = ''): Map<string, string> {
-  const texts = new Map<string, string>()
-  for (const [key, value] of Object.entries(tree)) {
-    if (typeof value === 'string') texts.set(path + key, value)
-    else for (const [inner, text] of flat(value, `${path}${key}.`)) texts.set(inner, text)
-  }
-  return texts
+async function textsOf(code: string): Promise<Map<string, string>> {
+  return new Map(Object.entries(namedTexts(code === 'en' ? en : await textTree(code))))
 }
 
 function placeholders(text: string): string[] {
   return [...new Set(text.match(/\{\w+\}/g) ?? [])].sort()
 }
 
-const english = flat(en)
+const englishTexts = namedTexts(en)
+const english = new Map(Object.entries(englishTexts))
 const others = LANGUAGES.filter(({ code }) => code !== 'en')
 
 describe('the languages', () => {
@@ -35,13 +29,13 @@ describe('the languages', () => {
   })
 
   it.each(others)('$code has every text', async ({ code }) => {
-    const texts = flat((await loadTestTexts(code)) as unknown as Tree)
+    const texts = await textsOf(code)
     expect([...texts.keys()]).toEqual([...english.keys()])
     for (const [key, text] of texts) expect(text.trim(), key).not.toBe('')
   })
 
   it.each(others)('$code has the same placeholders, but for counts in words', async ({ code }) => {
-    const texts = flat((await loadTestTexts(code)) as unknown as Tree)
+    const texts = await textsOf(code)
     const withoutCount = (text: string) => placeholders(text).filter((name) => name !== '{n}')
     for (const [key, text] of texts) {
       const wanted = english.get(key)!
@@ -51,8 +45,7 @@ describe('the languages', () => {
   })
 
   it.each(LANGUAGES)('$code has as many plural forms as it needs, or one more for none', async (language) => {
-    const tree = language.code === 'en' ? en : await loadTestTexts(language.code)
-    const texts = flat(tree as unknown as Tree)
+    const texts = await textsOf(language.code)
     for (const [key, wanted] of english) {
       const forms = texts.get(key)!.split('|').length
       if (!wanted.includes('|')) expect(forms, key).toBe(1)
@@ -61,9 +54,58 @@ describe('the languages', () => {
   })
 
   it.each(others)('$code is really another language', async ({ code }) => {
-    const texts = flat((await loadTestTexts(code)) as unknown as Tree)
+    const texts = await textsOf(code)
     const same = [...texts].filter(([key, text]) => text === english.get(key))
     expect(same.length).toBeLessThan(16)
+  })
+})
+
+describe('a message', () => {
+  const shown = (text: string, values: Record<string, string | number> = {}, count = 0) =>
+    messageOf(text, pluralForm(findLanguage('de')!))(values, count)
+
+  it('holds its values, each as often as it is named', () => {
+    expect(shown('{hours} h {minutes} min, {hours} h', { hours: 2, minutes: 5 })).toBe('2 h 5 min, 2 h')
+  })
+
+  it('shows a value as it is, whatever stands in it', () => {
+    const name = '{other} | $& @:x'
+    expect(shown('Restart {name}?', { name, other: 'wrong' })).toBe(`Restart ${name}?`)
+  })
+
+  it('shows nothing for a value that is not given', () => {
+    expect(shown('a{none}b')).toBe('ab')
+  })
+
+  it('is one of its forms, without the blanks around it', () => {
+    expect(shown('No devices | 1 device |  {n} devices ', {}, 1)).toBe('1 device')
+    expect(shown(' alone ')).toBe(' alone ')
+  })
+
+  it.each(LANGUAGES)('of $code has no other signs than placeholders and forms', async ({ code }) => {
+    for (const [name, text] of await textsOf(code))
+      expect(text.replace(/\{\w+\}/g, ''), name).not.toMatch(/[{}\r\n]/)
+  })
+})
+
+describe('packed texts', () => {
+  it.each(others)('of $code become the same again', async ({ code }) => {
+    const texts = namedTexts(await textTree(code))
+    const again = unpackTexts(packTexts(texts, englishTexts, code), englishTexts)
+    expect(again).toEqual(texts)
+    expect(Object.keys(again)).toEqual([...english.keys()])
+  })
+
+  it('follow the order of the English ones', () => {
+    expect(packTexts({ b: 'zwei', a: 'eins' }, { a: 'one', b: 'two' }, 'de')).toBe('eins\nzwei')
+  })
+
+  it.each([
+    [{ a: 'eins' }, 'de: texts are missing: b'],
+    [{ a: 'eins', b: 'zwei', c: 'drei' }, 'de: texts that English does not have: c'],
+    [{ a: 'eins\n', b: 'zwei' }, 'de: texts of more than one line: a'],
+  ])('are refused when they are %j', (texts, why) => {
+    expect(() => packTexts(texts as Record<string, string>, { a: 'one', b: 'two' }, 'de')).toThrow(why)
   })
 })
 
@@ -89,7 +131,7 @@ describe('counting', () => {
   it('says it in words', async () => {
     const texts = new Texts(loadTestTexts)
     await texts.use('ru')
-    const { t } = texts.plugin.global
+    const { t } = texts
     expect([0, 1, 3, 5].map((count) => t('main.count', count))).toEqual([
       'Нет устройств',
       '1 устройство',
@@ -116,7 +158,14 @@ describe('choosing a language', () => {
     const texts = new Texts(() => Promise.reject(new Error('gone')))
     await texts.use('en')
     await expect(texts.use('de')).rejects.toThrow('gone')
-    expect(texts.plugin.global.locale.value).toBe('en')
+    expect(texts.language).toBe('en')
+  })
+
+  it('changes nothing when the texts are those of another version', async () => {
+    const texts = new Texts(() => Promise.resolve('eins\nzwei'))
+    await expect(texts.use('de')).rejects.toThrow(`2 texts instead of ${english.size}`)
+    expect(texts.language).toBe('en')
+    expect(texts.t('common.cancel')).toBe('Cancel')
   })
 
   it('goes by the last choice, however long the texts take', async () => {
@@ -132,7 +181,7 @@ describe('choosing a language', () => {
     await texts.use('fr')
     finish()
     await first
-    expect(texts.plugin.global.locale.value).toBe('fr')
+    expect(texts.language).toBe('fr')
   })
 })
 
@@ -144,11 +193,9 @@ describe('the script of a language', () => {
   it('stands beside the page and hands its texts over', async () => {
     const loading = loadTexts('pl')
     expect(script().getAttribute('src')).toBe('./locales/pl.js')
-    ;(window as unknown as { orvaneTexts: (code: string, texts: unknown) => void }).orvaneTexts('pl', {
-      a: 'b',
-    })
+    ;(window as unknown as { orvaneTexts: (code: string, texts: string) => void }).orvaneTexts('pl', 'a\nb')
     script().onload!(new Event('load'))
-    await expect(loading).resolves.toEqual({ a: 'b' })
+    await expect(loading).resolves.toBe('a\nb')
     expect(document.head.querySelector('script')).toBeNull()
   })
 

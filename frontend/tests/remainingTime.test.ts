@@ -6,7 +6,7 @@ const HOUR = 3600
 const DAY = 24 * HOUR
 
 function say(seconds: number): string {
-  const { t } = new Texts().plugin.global
+  const { t } = new Texts()
   const { key, ...values } = remainingTime(seconds)
   return t(`remaining.${key}`, values, values.days)
 }

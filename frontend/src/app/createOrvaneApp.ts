@@ -6,10 +6,10 @@ import { provideServices, type Services } from './services'
 
 // The whole application around the given services, not yet mounted.
 export function createOrvaneApp(services: Services): { app: App; router: Router } {
-  const { session, devices, groups, expiry, bridge, texts } = services
+  const { session, devices, groups, expiry, bridge } = services
   const router = createAppRouter(session)
   const app = createApp(AppRoot)
-  app.use(texts.plugin).use(router)
+  app.use(router)
   provideServices(app, services)
   watch(session.current, (current) => {
     const { name } = router.currentRoute.value

@@ -35,3 +35,8 @@ export function useServices(): Services {
   if (!services) throw new Error('the application provides no services')
   return services
 }
+
+// For components: `t` gives the words of the language that the page is in.
+export function useTexts(): Texts {
+  return useServices().texts
+}

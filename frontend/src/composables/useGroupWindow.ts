@@ -1,11 +1,10 @@
-import { useI18n } from 'vue-i18n'
 import type { Device } from '@/api/Device'
-import { useServices } from '@/app/services'
+import { useServices, useTexts } from '@/app/services'
 import { groupWindow } from '@/groups/GroupStore'
 
 // Opening devices as a group. The client has one group window at a time.
 export function useGroupWindow() {
-  const { t } = useI18n()
+  const { t } = useTexts()
   const { bridge, groups, toasts } = useServices()
 
   // With the devices that are online; `label` is "" for a temporary group.

@@ -1,13 +1,12 @@
 import { shallowRef } from 'vue'
-import { useI18n } from 'vue-i18n'
 import { ApiError, isAborted } from '@/api/ApiError'
 import type { Device } from '@/api/Device'
-import { useServices } from '@/app/services'
+import { useServices, useTexts } from '@/app/services'
 import { apiErrorText, wordsOf } from '@/util/errorText'
 
 // Restarting one device or several, after a question.
 export function useRestart() {
-  const { t } = useI18n()
+  const { t } = useTexts()
   const { devices: store, toasts } = useServices()
 
   // The devices that the user is being asked about.

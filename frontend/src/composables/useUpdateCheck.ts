@@ -1,13 +1,12 @@
 import { ref, shallowRef } from 'vue'
-import { useI18n } from 'vue-i18n'
 import { ApiError, isAborted } from '@/api/ApiError'
 import type { ClientUpdate } from '@/api/ClientUpdate'
-import { useServices } from '@/app/services'
+import { useServices, useTexts } from '@/app/services'
 import { apiErrorText, wordsOf } from '@/util/errorText'
 
 // Looking for a newer client and, if the user wants it, having the client install it.
 export function useUpdateCheck() {
-  const { t } = useI18n()
+  const { t } = useTexts()
   const { api, bridge } = useServices()
 
   const checking = ref(false)

@@ -161,5 +161,3 @@ export const en = {
     delay: '{ms} ms',
   },
 }
-
-export type Messages = typeof en

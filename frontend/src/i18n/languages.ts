@@ -43,6 +43,12 @@ export function findLanguage(code: string): Language | undefined {
   return LANGUAGES.find((language) => language.code === code)
 }
 
+export function languageOf(code: LanguageCode): Language {
+  const language = findLanguage(code)
+  if (!language) throw new Error(`no language "${code}"`)
+  return language
+}
+
 export function isRightToLeft(code: LanguageCode): boolean {
   return code === 'ar'
 }

@@ -1,9 +1,9 @@
-import type { Messages } from './en'
 import type { LanguageCode } from './languages'
+import type { PackedTexts } from './texts'
 
-export type TextLoader = (code: LanguageCode) => Promise<Messages>
+export type TextLoader = (code: LanguageCode) => Promise<PackedTexts>
 
-type Receive = (code: string, texts: Messages) => void
+type Receive = (code: string, texts: PackedTexts) => void
 
 // Fetches a language's texts: a script beside the page that calls the global function "orvaneTexts". Unlike
 // modules and data, scripts load from file:/// too.
@@ -28,4 +28,4 @@ export const loadTexts: TextLoader = (code) =>
     document.head.append(script)
   })
 
-const loaded = new Map<string, Messages>()
+const loaded = new Map<string, PackedTexts>()

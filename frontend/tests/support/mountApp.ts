@@ -4,7 +4,8 @@ import { createOrvaneApp } from '@/app/createOrvaneApp'
 import { createServices } from '@/app/createServices'
 import { installPageFunctions } from '@/app/pageFunctions'
 import { BrowserClientBridge, type BridgeCall } from '@/bridge/BrowserClientBridge'
-import type { Messages } from '@/i18n/en'
+import { en } from '@/i18n/en'
+import { namedTexts, packTexts, type PackedTexts, type TextTree } from '@/i18n/texts'
 import type { StreamEnvironment } from '@/stream/StreamClient'
 import { FakeService } from './FakeService'
 
@@ -33,10 +34,15 @@ export interface MountOptions {
   streaming?: StreamEnvironment
 }
 
-// Texts as the build makes them, without the scripts around them.
-export async function loadTestTexts(code: string): Promise<Messages> {
-  const module = (await import(`../../src/i18n/locales/${code}.json`)) as { default: Messages }
+// A language's file.
+export async function textTree(code: string): Promise<TextTree> {
+  const module = (await import(`../../src/i18n/locales/${code}.json`)) as { default: TextTree }
   return module.default
+}
+
+// Texts as the build makes them, without the scripts around them.
+export async function loadTestTexts(code: string): Promise<PackedTexts> {
+  return packTexts(namedTexts(await textTree(code)), namedTexts(en), code)
 }
 
 // Mounts the whole application over a service that is not there and the browser's bridge.
