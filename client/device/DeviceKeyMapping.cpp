@@ -95,6 +95,7 @@ void DeviceKeyMapping::addKey(keymap::KeyType type)
     if (!isEditing() || m_manager->hasPendingKey(type))
         return;
     createKey(type)->setFocus();
+    emit sigOperation();
 }
 
 bool DeviceKeyMapping::eventFilter(QObject *watched, QEvent *event)
@@ -176,6 +177,7 @@ void DeviceKeyMapping::askToSave()
     connect(m_question, &OvMaskTipsDialog::sigConfirmBtnClicked, this, &DeviceKeyMapping::sigSaveWanted);
     connect(m_question, &OvMaskTipsDialog::sigCancelBtnClicked, this, &DeviceKeyMapping::onDeclined);
     connect(m_question, &QDialog::finished, this, [this](int result) {
+        m_question.clear();
         if (result == Unanswered)
             emit sigStayWanted();
     });
