@@ -93,7 +93,7 @@ bool TestKeyMappingPictures::isSeen(OvAuxiliaryKey *key) const
         const QPoint pixel(i % with.width(), i / with.width());
         different += with.pixel(pixel) != without.pixel(pixel) ? 1 : 0;
     }
-    return different > 5;
+    return different > with.width() * with.height() / 20;
 }
 
 void TestKeyMappingPictures::editing_data()
