@@ -52,12 +52,13 @@ class Wine:
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="orvane-wine-"))
         self.prefix = self.folder / "prefix"
         # Nothing of the machine's own Wine is touched. Without the named libraries a fresh prefix takes 3 s and
-        # offers no downloads; without winedbg.exe a crash is not described at length.
+        # offers no downloads; without winedbg.exe a crash is not described at length; without winemenubuilder.exe the
+        # machine's own menus stay as they are.
         self.environment = {
             **{name: value for name, value in os.environ.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")},
             "HOME": str(self.folder), "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8",
             "WINEPREFIX": str(self.prefix), "WINEARCH": "win64", "WINEDEBUG": "-all",
-            "WINEDLLOVERRIDES": "mscoree,mshtml=;winedbg.exe=d",
+            "WINEDLLOVERRIDES": "mscoree,mshtml=;winedbg.exe,winemenubuilder.exe=d",
         }
         try:
             self.run("wineboot", "--init", seconds=120)

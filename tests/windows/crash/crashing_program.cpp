@@ -1,8 +1,8 @@
 // A program for Windows with the client's crash handler and without Qt. The test runs it under Wine.
 //
-//     crashing_program crash DIR     installs the handler, with DIR as the folder for dumps, and writes to address 0
-//     crashing_program unhandled     writes to address 0 without the handler
-//     crashing_program mark FILE     creates FILE: stands for the system's debugger, which asks the user
+//     crashing_program crash DIR     installs the handler, with DIR as the folder for dumps, and writes to
+//     address 0 crashing_program unhandled     writes to address 0 without the handler crashing_program mark
+//     FILE     creates FILE: stands for the system's debugger, which asks the user
 
 #include "app/CrashDumpWriter.h"
 
