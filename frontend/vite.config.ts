@@ -3,6 +3,7 @@ import { readdirSync, readFileSync } from 'node:fs'
 import vue from '@vitejs/plugin-vue'
 import type { Plugin } from 'vite'
 import { defineConfig } from 'vitest/config'
+import { licences } from './licences'
 
 const LOCALES = fileURLToPath(new URL('./src/i18n/locales', import.meta.url))
 
@@ -50,7 +51,7 @@ function classicScript(): Plugin {
 
 export default defineConfig({
   base: './',
-  plugins: [vue(), classicScript(), localeScripts()],
+  plugins: [vue(), classicScript(), localeScripts(), licences()],
   resolve: {
     alias: {
       '@': fileURLToPath(new URL('./src', import.meta.url)),
