@@ -31,7 +31,7 @@ def compile_windows(output, sources, options=()):
     """Makes a program that needs nothing but what Windows itself has."""
     subprocess.run(
         [COMPILER, "-std=c++17", "-Wall", "-Wextra", "-Werror", "-O1", "-static", "-municode", "-DUNICODE",
-         "-D_UNICODE", "-DNOMINMAX", "-D_WIN32_WINNT=0x0A00", *options, *map(str, sources), "-ldbghelp", "-o",
+         "-D_UNICODE", "-DNOMINMAX", "-D_WIN32_WINNT=0x0601", *options, *map(str, sources), "-ldbghelp", "-o",
          str(output)],
         check=True)
 
