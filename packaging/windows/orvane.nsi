@@ -6,6 +6,7 @@
 ;   FILES_DIR       holds install.nsh and uninstall.nsh, the lists of the files to install and to remove
 ;   INSTALLED_KB    their size
 ;   NSIS_TARGET     amd64-unicode, or x86-unicode where this NSIS has no 64-bit stubs
+;   SIGN_COMMAND    a program that signs the file that it is given; not needed
 ;
 ; Command line of installer and uninstaller (upper and lower case are the same but for /S and /D):
 ;   /S             asks and shows nothing
@@ -24,6 +25,10 @@ SetCompressor /SOLID lzma
 ManifestDPIAware true
 ManifestSupportedOS all
 RequestExecutionLevel user
+!ifdef SIGN_COMMAND
+    !finalize '"${SIGN_COMMAND}" "%1"' = 0
+    !uninstfinalize '"${SIGN_COMMAND}" "%1"' = 0
+!endif
 
 !include MUI2.nsh
 !include LogicLib.nsh

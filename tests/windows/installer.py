@@ -6,6 +6,7 @@ registry, never from exit codes.
 """
 import base64
 import hashlib
+import os
 import pathlib
 import re
 import shutil
@@ -21,6 +22,7 @@ GUID = "{0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0}"
 UNINSTALL = rf"Software\Microsoft\Windows\CurrentVersion\Uninstall\{GUID}"
 FOR_USER, FOR_ALL = "HKCU\\" + UNINSTALL, "HKLM\\" + UNINSTALL
 SECONDS = 60
+SIGNATURE = "signed by the test"
 
 # What each version consists of, besides orvane.exe; folders and names as real ones may be.
 FILES = {
@@ -51,6 +53,10 @@ class Installer(unittest.TestCase):
     @classmethod
     def release(cls, version):
         payload, build = cls.work / f"payload {version}", cls.work / f"build-{version}"
+        # A "signature" at the end, as real ones are.
+        sign = cls.work / "sign it"
+        sign.write_text(f'#!/bin/sh\nprintf "{SIGNATURE}" >>"$1"\n')
+        sign.chmod(0o755)
         for name, text in FILES[version].items():
             path = payload / name
             path.parent.mkdir(parents=True, exist_ok=True)
@@ -62,7 +68,8 @@ class Installer(unittest.TestCase):
         output = cls.work / f"releases/{version}"
         result = subprocess.run(
             [ROOT / "tools/release", "--payload", payload, "--build", build, "--output", output],
-            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
+            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False,
+            env={**os.environ, "SIGN_COMMAND": str(sign)})
         print(result.stdout, end="")
         if result.returncode != 0:
             raise AssertionError("tools/release failed")
@@ -116,6 +123,7 @@ class Installer(unittest.TestCase):
     def test_release_describes_its_installer(self):
         setup = self.setup["1.2.5"]
         content = setup.read_bytes()
+        self.assertTrue(content.endswith(SIGNATURE.encode()))
         digest = base64.b64encode(hashlib.sha512(content).digest()).decode()
         by_openssl = subprocess.run(f'openssl dgst -sha512 -binary "{setup}" | base64 -w0', shell=True, check=True,
                                     stdout=subprocess.PIPE, text=True).stdout
@@ -135,6 +143,7 @@ class Installer(unittest.TestCase):
     def test_for_this_user(self):
         values = self.install("1.2.5", "/currentuser", key=FOR_USER)
         print(f"{FOR_USER}: {values}")
+        self.assertTrue((self.per_user / "Uninstall.exe").read_bytes().endswith(SIGNATURE.encode()))
         self.assertInstalled(self.per_user, "1.2.5")
         self.assertIsNone(self.wine.registry(FOR_ALL))
         folder = values["InstallLocation"]
