@@ -15,6 +15,17 @@ if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
     endif()
 endif()
 
+if(MSVC)
+    add_compile_options(/W3 /utf-8 /EHsc /permissive- /Zc:__cplusplus)
+    if(ORVANE_WERROR)
+        add_compile_options(/WX)
+    endif()
+endif()
+if(WIN32)
+    # The headers of Windows 7 and later, with wide characters and without macros for min and max.
+    add_compile_definitions(UNICODE _UNICODE NOMINMAX _WIN32_WINNT=0x0601)
+endif()
+
 if(ORVANE_SANITIZE)
     add_compile_options(-fsanitize=${ORVANE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${ORVANE_SANITIZE})

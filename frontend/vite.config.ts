@@ -5,6 +5,7 @@ import type { Plugin } from 'vite'
 import { defineConfig } from 'vitest/config'
 import { en } from './src/i18n/en'
 import { namedTexts, packTexts, type TextTree } from './src/i18n/texts'
+import { licences } from './licences'
 
 const path = (name: string) => fileURLToPath(new URL(name, import.meta.url))
 const LOCALES = path('./src/i18n/locales')
@@ -56,7 +57,7 @@ function classicScript(): Plugin {
 
 export default defineConfig({
   base: './',
-  plugins: [vue(), classicScript(), localeScripts()],
+  plugins: [vue(), classicScript(), localeScripts(), licences()],
   resolve: {
     alias: [
       { find: '@', replacement: path('./src') },

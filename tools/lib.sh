@@ -16,7 +16,9 @@ build_packages=(
 # What a virtual display needs.
 display_packages=(xvfb openbox xdotool x11-utils libgl1-mesa-dri)
 # What the tests need besides.
-test_packages=(libgtest-dev libgmock-dev python3)
+test_packages=(libgtest-dev libgmock-dev python3 dpkg-dev file)
+# What the checks of the Windows client need (1.1 GB); they are skipped without it.
+windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 nsis openssl)
 
 as_root() {
     if [ "$(id -u)" = 0 ]; then

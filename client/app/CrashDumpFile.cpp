@@ -1,10 +1,5 @@
 #include "app/CrashDumpFile.h"
 
-#include "base/AppPaths.h"
-
-#include <QDir>
-#include <QFileInfo>
-
 #include <cwchar>
 
 namespace CrashDumpFile {
@@ -33,13 +28,6 @@ bool formatStamp(const Time &time, wchar_t *buffer, std::size_t size)
 bool formatPath(const wchar_t *dumpDir, const wchar_t *stamp, wchar_t *buffer, std::size_t size)
 {
     return settle(std::swprintf(buffer, size, L"%ls/dump-%ls.dmp", dumpDir, stamp), buffer, size);
-}
-
-QString createDumpDir()
-{
-    const QFileInfo dumpDir(AppPaths::dumpDir());
-    dumpDir.dir().mkdir(dumpDir.fileName());
-    return dumpDir.filePath();
 }
 
 } // namespace CrashDumpFile

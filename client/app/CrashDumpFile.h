@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include <cstddef>
-#include <string>
 
-// Where a crash dump goes and what it is called. These parts of the crash handler are the same on every
-// system. Any thread.
+// What a crash dump is called. These parts of the crash handler are the same on every system and free of Qt.
+// Any thread.
 namespace CrashDumpFile {
 
 // A local time, as the system tells it.
@@ -26,8 +23,5 @@ bool formatStamp(const Time &time, wchar_t *buffer, std::size_t size);
 
 // Writes "<dumpDir>/dump-<stamp>.dmp" and a final null, as formatStamp does.
 bool formatPath(const wchar_t *dumpDir, const wchar_t *stamp, wchar_t *buffer, std::size_t size);
-
-// AppPaths::dumpDir(), created if it is missing; the data directory itself must be there.
-QString createDumpDir();
 
 } // namespace CrashDumpFile

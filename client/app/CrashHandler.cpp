@@ -1,75 +1,42 @@
 #include "app/CrashHandler.h"
 
+#include "base/AppPaths.h"
+
+#include <QDir>
+#include <QFileInfo>
+
 #ifdef Q_OS_WIN
-#include "app/CrashDumpFile.h"
+#include "app/CrashDumpWriter.h"
 
 #include <QDebug>
+#endif
 
-#include <windows.h>
+QString createCrashDumpDir()
+{
+    const QFileInfo dumpDir(AppPaths::dumpDir());
+    dumpDir.dir().mkdir(dumpDir.fileName());
+    return dumpDir.filePath();
+}
 
-#include <dbghelp.h>
+#ifdef Q_OS_WIN
 
 namespace {
 
-constexpr std::size_t stampLength = 64; // characters, with the final null
-constexpr std::size_t pathLength = 1024;
-
-// Owns the dump file's handle.
-class DumpFile
+void logLine(const std::wstring &line)
 {
-public:
-    explicit DumpFile(const wchar_t *path)
-        : m_handle(
-            CreateFileW(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr))
-    { }
-    ~DumpFile()
-    {
-        if (isOpen())
-            CloseHandle(m_handle);
-    }
-    DumpFile(const DumpFile &) = delete;
-    DumpFile &operator=(const DumpFile &) = delete;
+    qDebug().noquote() << QString::fromStdWString(line);
+}
 
-    bool isOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-    HANDLE handle() const { return m_handle; }
-
-private:
-    HANDLE m_handle;
-};
+std::wstring createWideCrashDumpDir()
+{
+    return createCrashDumpDir().toStdWString();
+}
 
 } // namespace
 
-long __stdcall writeCrashDump(_EXCEPTION_POINTERS *exceptionPointers)
-{
-    qDebug() << "dump!!!!!";
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    wchar_t stamp[stampLength];
-    const bool hasStamp = CrashDumpFile::formatStamp(
-        {now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond}, stamp, stampLength);
-    const QString dumpDir = CrashDumpFile::createDumpDir();
-    wchar_t path[pathLength];
-    const bool hasPath
-        = hasStamp && CrashDumpFile::formatPath(dumpDir.toStdWString().c_str(), stamp, path, pathLength);
-    qDebug().noquote().nospace() << "dumpPath ---> " << dumpDir;
-    if (!hasPath)
-        return EXCEPTION_EXECUTE_HANDLER;
-
-    const DumpFile file(path);
-    if (!file.isOpen())
-        return EXCEPTION_EXECUTE_HANDLER;
-    MINIDUMP_EXCEPTION_INFORMATION information;
-    information.ThreadId = GetCurrentThreadId();
-    information.ExceptionPointers = exceptionPointers;
-    information.ClientPointers = FALSE;
-    MiniDumpWriteDump(GetCurrentProcess(), GetCurrentProcessId(), file.handle(), MiniDumpNormal, &information,
-        nullptr, nullptr);
-    return EXCEPTION_EXECUTE_HANDLER;
-}
-
 void installCrashHandler()
 {
-    SetUnhandledExceptionFilter(&writeCrashDump);
+    installCrashDumpWriter({&logLine, &createWideCrashDumpDir});
 }
 
 #else

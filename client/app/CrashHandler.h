@@ -1,17 +1,13 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
-#ifdef Q_OS_WIN
-struct _EXCEPTION_POINTERS;
+// AppPaths::dumpDir(), created if it is missing; the data directory itself must be there. Any thread.
+QString createCrashDumpDir();
 
-// The process's unhandled-exception filter: writes a minidump "dump-<local time>.dmp" into
-// AppPaths::dumpDir() and lets the process end without the system's error dialog, also when no dump could be
-// written. Runs on the crashing thread.
-long __stdcall writeCrashDump(_EXCEPTION_POINTERS *exceptionPointers);
-#endif
-
-// From here on a crash writes a dump. GUI thread, once, just before the event loop starts.
+// From here on a crash writes a dump "dump-<local time>.dmp" into AppPaths::dumpDir(), tells the log, and
+// ends the process without the system's error dialog (CrashDumpWriter.h). GUI thread, once, just before the
+// event loop starts.
 //
 // On systems other than Windows it does nothing: there the system itself keeps core dumps as its user set it
 // up.

@@ -125,7 +125,8 @@ void OvMainWindow::startStreamingRuntime()
     SWRuntime::getInstance()->init(Contract::runtimeLogLevel, logDir.toUtf8().constData());
 }
 
-// An earlier installation for this user alone would stay beside the one for the whole machine.
+// An earlier installation for this user alone would stay beside the one for the whole machine. The client of
+// a per-user installation finds itself there, and leaves itself alone.
 void OvMainWindow::uninstallPerUserInstallation()
 {
 #ifdef Q_OS_WIN
@@ -135,6 +136,9 @@ void OvMainWindow::uninstallPerUserInstallation()
     registry.beginGroup(QStringLiteral(ORVANE_UNINSTALL_GUID));
     const QString uninstaller = registry.value(QStringLiteral("QuietUninstallString")).toString();
     if (uninstaller.isEmpty())
+        return;
+    const QString folder = registry.value(QStringLiteral("InstallLocation")).toString();
+    if (!folder.isEmpty() && QFileInfo(folder) == QFileInfo(QCoreApplication::applicationDirPath()))
         return;
     auto *process = new QProcess(this);
     process->start(uninstaller, {QStringLiteral("/currentuser"), QStringLiteral("/S")}, QIODevice::ReadWrite);

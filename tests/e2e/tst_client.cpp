@@ -82,7 +82,9 @@ void TestClient::newClient()
     if (m_client)
         m_client->kill();
     waitUntil(QStringLiteral("no window is left"), [] { return Desktop::window(mainWindow).isEmpty(); });
-    m_client = std::make_unique<Client>(QCoreApplication::applicationDirPath() + QStringLiteral("/orvane"));
+    // An installed client can be named instead of the one that was built.
+    m_client = std::make_unique<Client>(qEnvironmentVariable(
+        "ORVANE_CLIENT", QCoreApplication::applicationDirPath() + QStringLiteral("/orvane")));
     m_client->setApiBaseUrl(m_service->apiBaseUrl());
 }
 

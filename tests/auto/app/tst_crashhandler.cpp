@@ -12,6 +12,8 @@
 #include <string>
 
 #ifdef Q_OS_WIN
+#include "app/CrashDumpWriter.h"
+
 #include <windows.h>
 #else
 #include <csignal>
@@ -93,11 +95,11 @@ void TestCrashHandler::dumpDirIsCreated()
     QStandardPaths::setTestModeEnabled(true);
     QVERIFY(QDir(AppPaths::dataDir()).removeRecursively());
     // Only the last folder is made.
-    QCOMPARE(CrashDumpFile::createDumpDir(), AppPaths::dumpDir());
+    QCOMPARE(createCrashDumpDir(), AppPaths::dumpDir());
     QVERIFY(!QFileInfo::exists(AppPaths::dataDir()));
     QVERIFY(QDir().mkpath(AppPaths::dataDir()));
     for (int i = 0; i < 2; ++i) {
-        QCOMPARE(CrashDumpFile::createDumpDir(), AppPaths::dataDir() + "/dump");
+        QCOMPARE(createCrashDumpDir(), AppPaths::dataDir() + "/dump");
         QVERIFY(QFileInfo(AppPaths::dumpDir()).isDir());
     }
     QVERIFY(QDir(AppPaths::dataDir()).removeRecursively());
