@@ -33,9 +33,9 @@ constexpr int httpOk = 200;
 } // namespace Contract
 
 // A description has a few hundred bytes.
-constexpr qint64 maxLatestInfoBytes = 64 * 1024;
+constexpr qint64 maxLatestInfoBytes = 65'536;
 // What the network layer may hold that has not been taken from it.
-constexpr qint64 readBufferBytes = 1024 * 1024;
+constexpr qint64 readBufferBytes = 1'048'576;
 constexpr std::chrono::seconds defaultStallTime(30);
 
 // Sizes in pixels and colours.

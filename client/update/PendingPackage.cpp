@@ -15,7 +15,7 @@ const char partSuffix[] = ".part";
 const char installers[] = "*.exe";
 } // namespace Contract
 
-constexpr qint64 maxUnwrittenBytes = 4 * 1024 * 1024;
+constexpr qint64 maxUnwrittenBytes = 4'194'304;
 
 } // namespace
 

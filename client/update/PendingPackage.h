@@ -24,7 +24,6 @@ public:
     PendingPackage(const QString &pendingDir, const QString &fileName);
     ~PendingPackage() override;
 
-    QString partPath() const { return m_part.fileName(); }
     QString filePath() const { return m_filePath; }
 
     // ---- GUI thread
