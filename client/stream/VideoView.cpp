@@ -18,6 +18,8 @@
 #include <QTransform>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr std::chrono::milliseconds MoveInterval{50};
@@ -109,6 +111,8 @@ void VideoView::presentFrame()
         m_arrivals.updateQueued = false;
     }
     update();
+    if (!std::exchange(m_hasPicture, true))
+        emit sigFirstPicture();
 }
 
 void VideoView::onScreenRotation(int rotation)

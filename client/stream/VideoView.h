@@ -85,6 +85,8 @@ signals:
     void functionBtnClicked(int keyType);
     void screenRotation(ScreenOrientation orientation);
     void inputEvent(QString inputString);
+    // The first picture has come while the view was visible; once.
+    void sigFirstPicture();
     // First thing of the destruction: whoever draws into the view must stop before this returns.
     void sigAboutToBeDestroyed();
 
@@ -136,6 +138,7 @@ private:
 
     bool m_pressed = false; // the left mouse button is held on the view
     bool m_ctrlHeld = false; // the wheel pinches
+    bool m_hasPicture = false; // sigFirstPicture was emitted
     bool m_inputDisabled = false; // mouse and wheel are ignored
     float m_percentX = 0; // last pointer position, fraction of the remote portrait frame
     float m_percentY = 0;
