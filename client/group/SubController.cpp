@@ -114,6 +114,7 @@ void SubController::restartStream()
 void SubController::startStream()
 {
     m_stream->startStream(streamingDataOf(m_device), m_live ? stream::Thumbnail : stream::Paused);
+    m_view->fitPicturesToView();
 }
 
 void SubController::setLive(bool live)
@@ -187,8 +188,10 @@ void SubController::resizeEvent(QResizeEvent *event)
 // By hand: no text may ever make the grid lay itself out anew.
 void SubController::placeParts()
 {
-    if (m_view)
+    if (m_view) {
         m_view->setGeometry(rect());
+        m_view->fitPicturesToView();
+    }
     m_infoLabel->setGeometry(rect());
     const int captionHeight = qMin(height(), m_captionLabel->sizeHint().height());
     m_captionLabel->setGeometry(0, height() - captionHeight, width(), captionHeight);

@@ -25,6 +25,7 @@ namespace {
 constexpr std::chrono::milliseconds MoveInterval{50};
 constexpr std::chrono::milliseconds GestureInterval{50};
 constexpr int NoFinger = -1;
+constexpr int BgraFormat = -1; // as the SDK numbers it
 
 VideoView::MonotonicClock runningClock()
 {
@@ -73,6 +74,13 @@ void VideoView::setOrientation(ScreenOrientation orientation)
 void VideoView::setViewMode(int mode)
 {
     m_viewMode = mode;
+}
+
+void VideoView::fitPicturesToView()
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (!pixels.isEmpty())
+        setDstFormat(BgraFormat, pixels.width(), pixels.height(), 0);
 }
 
 void VideoView::setStreamController(const std::weak_ptr<StreamController> &controller)
