@@ -18,11 +18,14 @@
 #include <QTransform>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr std::chrono::milliseconds MoveInterval{50};
 constexpr std::chrono::milliseconds GestureInterval{50};
 constexpr int NoFinger = -1;
+constexpr int BgraFormat = -1; // as the SDK numbers it
 
 VideoView::MonotonicClock runningClock()
 {
@@ -73,6 +76,13 @@ void VideoView::setViewMode(int mode)
     m_viewMode = mode;
 }
 
+void VideoView::fitPicturesToView()
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (!pixels.isEmpty())
+        setDstFormat(BgraFormat, pixels.width(), pixels.height(), 0);
+}
+
 void VideoView::setStreamController(const std::weak_ptr<StreamController> &controller)
 {
     m_streamController = controller;
@@ -109,6 +119,8 @@ void VideoView::presentFrame()
         m_arrivals.updateQueued = false;
     }
     update();
+    if (!std::exchange(m_hasPicture, true))
+        emit sigFirstPicture();
 }
 
 void VideoView::onScreenRotation(int rotation)

@@ -57,6 +57,9 @@ public:
     ScreenOrientation orientation() const { return m_orientation; }
     // A stream::ViewMode.
     void setViewMode(int mode);
+    // Takes pictures with no more pixels than the view has, until a stream is started or this is called
+    // again: they are scaled before they are converted, and painted as they are. For small views.
+    void fitPicturesToView();
     // Tells the size of the remote screen; without it no touch is sent.
     void setStreamController(const std::weak_ptr<StreamController> &controller);
     // The key mapping's fingers, or none. Not owned; may be destroyed at any time.
@@ -67,8 +70,8 @@ public:
     // For tests: replaces the clock that spaces the moves.
     void setClock(MonotonicClock clock);
 
-    // The picture that is shown, turned as shown, with its own pixels (720 x 1280, or 1280 x 720); null
-    // before the first.
+    // The picture that is shown, turned as shown, with its own pixels (720 x 1280, or 1280 x 720; after
+    // fitPicturesToView those of the view); null before the first.
     QImage picture();
 
     // SDK threads.
@@ -85,6 +88,8 @@ signals:
     void functionBtnClicked(int keyType);
     void screenRotation(ScreenOrientation orientation);
     void inputEvent(QString inputString);
+    // The first picture has come while the view was visible; once.
+    void sigFirstPicture();
     // First thing of the destruction: whoever draws into the view must stop before this returns.
     void sigAboutToBeDestroyed();
 
@@ -136,6 +141,7 @@ private:
 
     bool m_pressed = false; // the left mouse button is held on the view
     bool m_ctrlHeld = false; // the wheel pinches
+    bool m_hasPicture = false; // sigFirstPicture was emitted
     bool m_inputDisabled = false; // mouse and wheel are ignored
     float m_percentX = 0; // last pointer position, fraction of the remote portrait frame
     float m_percentY = 0;
