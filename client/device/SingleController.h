@@ -1,8 +1,8 @@
 #pragma once
 
-#include "device/HeldKeys.h"
 #include "device/StandbyTimer.h"
 #include "device/TurnableWindow.h"
+#include "stream/HeldKeys.h"
 #include "stream/ScreenOrientation.h"
 #include "stream/StreamingData.h"
 
