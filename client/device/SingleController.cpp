@@ -46,9 +46,6 @@ constexpr int ToastSeconds = 3;
 
 constexpr int OrientationToggle = 3; // landscape to portrait and back, by exclusive or
 
-// What the streaming SDK takes as one text, in bytes of UTF-8.
-constexpr int LongestPaste = 1024 * 1024;
-
 // Whether a key travels as a key and not as text: its text must be the character of its own code. The code is
 // taken as a signed byte, so that letters outside ASCII, which a device keyboard has no key for, are text.
 bool travelsAsKey(const QKeyEvent &event)
@@ -318,7 +315,7 @@ void SingleController::onPasteText()
     if (text.isEmpty() || !takesInput())
         return;
     onOperation();
-    if (text.toUtf8().size() > LongestPaste) {
+    if (text.toUtf8().size() > stream::LongestText) {
         qWarning() << "the clipboard's text is too long to paste, characters:" << text.size();
         showToast(tr("The text is too long to paste."));
         return;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "stream/StreamingData.h"
+
 #include <QDateTime>
 #include <QJsonObject>
 #include <QMap>
@@ -34,5 +36,8 @@ using GroupDevices = QMap<QString, GroupDevice>;
 // The devices in the member "children" of the page's group object. What is no object, or names no
 // "service_id", is left out with a line in the log; a device that is named twice counts once, as named last.
 GroupDevices groupDevicesOf(const QJsonObject &winData);
+
+// What a session with the device needs to connect.
+stream::StreamingData streamingDataOf(const GroupDevice &device);
 
 } // namespace group

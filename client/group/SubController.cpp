@@ -4,7 +4,6 @@
 #include "group/TileMenu.h"
 #include "group/TileText.h"
 #include "stream/StreamController.h"
-#include "stream/StreamingData.h"
 #include "stream/VideoView.h"
 
 #include <QApplication>
@@ -21,18 +20,6 @@ constexpr int CaptionMarginX = 8;
 constexpr int CaptionMarginY = 4;
 constexpr int NamePixels = 14; // as the caption's template has it
 } // namespace Look
-
-stream::StreamingData streamingDataOf(const group::GroupDevice &device)
-{
-    stream::StreamingData data;
-    data.controlPort = device.controlPort;
-    data.userId = device.userId;
-    data.serviceId = device.serviceId;
-    data.padCode = device.instanceCode;
-    data.controlIp = device.controlIp;
-    data.sessionId = device.sessionId;
-    return data;
-}
 
 void setColours(QLabel *label, const QColor &background)
 {

@@ -105,6 +105,8 @@ void VideoView::onFrameArrival()
 {
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
+        m_arrivals.pictureHasCome = true;
+        m_arrivals.pictureForgotten = false;
         if (!m_arrivals.visible || m_arrivals.updateQueued)
             return;
         m_arrivals.updateQueued = true;
@@ -117,10 +119,34 @@ void VideoView::presentFrame()
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
         m_arrivals.updateQueued = false;
+        if (m_arrivals.pictureForgotten)
+            return;
     }
     update();
+    tellFirstPicture();
+}
+
+void VideoView::tellFirstPicture()
+{
     if (!std::exchange(m_hasPicture, true))
         emit sigFirstPicture();
+}
+
+void VideoView::forgetPicture()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_frameLock);
+        m_arrivals.pictureHasCome = false;
+        m_arrivals.pictureForgotten = true;
+    }
+    m_hasPicture = false;
+    update();
+}
+
+bool VideoView::isPictureForgotten()
+{
+    const std::lock_guard<std::mutex> lock(m_frameLock);
+    return m_arrivals.pictureForgotten;
 }
 
 void VideoView::onScreenRotation(int rotation)
@@ -153,11 +179,15 @@ void VideoView::followRotations()
 
 void VideoView::showEvent(QShowEvent *event)
 {
+    bool pictureHasCome = false;
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
         m_arrivals.visible = true;
+        pictureHasCome = m_arrivals.pictureHasCome;
     }
     QWidget::showEvent(event);
+    if (pictureHasCome)
+        tellFirstPicture(); // it came while the view was hidden
 }
 
 void VideoView::hideEvent(QHideEvent *event)
@@ -175,7 +205,7 @@ void VideoView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const FrameBufferLock frame(*this);
-    const QImage image = frame.image();
+    const QImage image = isPictureForgotten() ? QImage() : frame.image();
     if (image.isNull()) {
         painter.fillRect(rect(), Qt::white);
         return;
@@ -193,7 +223,7 @@ void VideoView::paintEvent(QPaintEvent *)
 QImage VideoView::picture()
 {
     const FrameBufferLock frame(*this);
-    const QImage image = frame.image();
+    const QImage image = isPictureForgotten() ? QImage() : frame.image();
     if (image.isNull() || m_orientation == ScreenOrientation::Portrait)
         return image.copy();
     return image.transformed(QTransform().rotate(-90));

@@ -67,6 +67,9 @@ public:
     // Ends the touch of a mouse button that is held: what it points at is about to change. The button's
     // release is ignored then.
     void liftFinger();
+    // Shows no picture until the next one comes: what is shown is another device's from now on. The session
+    // before must have ended.
+    void forgetPicture();
     // For tests: replaces the clock that spaces the moves.
     void setClock(MonotonicClock clock);
 
@@ -88,7 +91,7 @@ signals:
     void functionBtnClicked(int keyType);
     void screenRotation(ScreenOrientation orientation);
     void inputEvent(QString inputString);
-    // The first picture has come while the view was visible; once.
+    // The first picture can be seen, also the first after forgetPicture.
     void sigFirstPicture();
     // First thing of the destruction: whoever draws into the view must stop before this returns.
     void sigAboutToBeDestroyed();
@@ -124,12 +127,16 @@ private:
     {
         bool visible = false; // whether a new picture is worth painting
         bool updateQueued = false; // presentFrame is on its way
+        bool pictureHasCome = false; // since the beginning or forgetPicture
+        bool pictureForgotten = false; // the one in the frame buffer is not to be shown
         std::vector<int> rotations; // not yet followed, oldest first
     };
 
     Q_INVOKABLE void presentFrame();
     Q_INVOKABLE void followRotations();
 
+    void tellFirstPicture();
+    bool isPictureForgotten();
     void setPosition(const QPointF &position);
     std::optional<QSize> remoteSize() const;
     void appendHeldPoints(QVector<int> &xs, QVector<int> &ys, const QSize &remote) const;
