@@ -57,6 +57,12 @@ void BatchProcessThread::addEvent(const group::InputEvent &event)
     m_queue.push_back(event);
 }
 
+int BatchProcessThread::waitingEvents() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return static_cast<int>(m_queue.size());
+}
+
 void BatchProcessThread::run()
 {
     std::shared_ptr<const Targets> targets;

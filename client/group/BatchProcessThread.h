@@ -47,6 +47,8 @@ public:
     void removeController(SubController *controller);
     // Appends to the queue. Any thread; never waits for a replay.
     void addEvent(const group::InputEvent &event);
+    // How many events have not been taken from the queue yet. Any thread.
+    int waitingEvents() const;
 
 protected:
     void run() override;
@@ -61,7 +63,7 @@ private:
 
     std::optional<group::InputEvent> takeEvent(std::shared_ptr<const Targets> &targets);
 
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::condition_variable m_stopWanted;
     bool m_stopped = false; // m_mutex
     std::deque<group::InputEvent> m_queue; // m_mutex

@@ -1,6 +1,7 @@
 #include "group/SubControlPage.h"
 
 #include "group/BatchProcessThread.h"
+#include "group/RemoveDeviceDialog.h"
 #include "group/SubController.h"
 #include "group/TileGrid.h"
 #include "net/HttpHelper.h"
@@ -200,14 +201,22 @@ void SubControlPage::onRemoveController(bool slient)
     auto *tile = qobject_cast<SubController *>(sender());
     if (!tile || !m_controllers.contains(tile))
         return;
-    if (slient)
+    if (slient) {
         removeTile(tile);
-    else
-        removeUnlessLast(tile);
+        return;
+    }
+    auto *dialog = new RemoveDeviceDialog(window());
+    connect(dialog, &QDialog::accepted, this,
+        [this, serviceId = tile->serviceId()] { removeConfirmed(serviceId); });
+    dialog->open();
 }
 
-void SubControlPage::removeUnlessLast(SubController *tile)
+// The device may have left the group or become its master in the meantime.
+void SubControlPage::removeConfirmed(const QString &serviceId)
 {
+    SubController *tile = findController(serviceId);
+    if (!tile)
+        return;
     if (m_controllers.size() < FewestTiles) {
         (new OvToast(window()))->show(tr("Group control need to be more than 2 devices"), ToastSeconds);
         return;

@@ -102,7 +102,7 @@ private:
     void addTile(const group::GroupDevice &device);
     void removeTiles();
     void removeTile(SubController *tile);
-    void removeUnlessLast(SubController *tile);
+    void removeConfirmed(const QString &serviceId);
     void addEvent(const group::InputEvent &event);
     void createPageButtons();
     void updateBar();

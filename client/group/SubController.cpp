@@ -224,9 +224,11 @@ void SubController::leaveEvent(QEvent *event)
     hideMenuWhenLeft();
 }
 
+// A window that becomes active may give a tile the focus without having been asked.
 void SubController::focusInEvent(QFocusEvent *event)
 {
-    showMenu();
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+        showMenu();
     QWidget::focusInEvent(event);
 }
 
