@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/HeldKeys.h"
+#include "stream/HeldKeys.h"
 
 #include <memory>
 

@@ -277,7 +277,7 @@ void SingleController::onPasteText()
     if (text.isEmpty() || !takesInput())
         return;
     onOperation();
-    if (text.toUtf8().size() > LongestPaste) {
+    if (text.toUtf8().size() > stream::LongestText) {
         qWarning() << "the clipboard's text is too long to paste, characters:" << text.size();
         showToast(tr("The text is too long to paste."));
         return;

@@ -43,4 +43,16 @@ GroupDevices groupDevicesOf(const QJsonObject &winData)
     return devices;
 }
 
+stream::StreamingData streamingDataOf(const GroupDevice &device)
+{
+    stream::StreamingData data;
+    data.controlPort = device.controlPort;
+    data.userId = device.userId;
+    data.serviceId = device.serviceId;
+    data.padCode = device.instanceCode;
+    data.controlIp = device.controlIp;
+    data.sessionId = device.sessionId;
+    return data;
+}
+
 } // namespace group

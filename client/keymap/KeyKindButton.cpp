@@ -1,6 +1,6 @@
 #include "keymap/KeyKindButton.h"
 
-#include "keymap/FittedText.h"
+#include "widgets/FittedText.h"
 
 #include <QIcon>
 #include <QPainter>

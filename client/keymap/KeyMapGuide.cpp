@@ -1,7 +1,7 @@
 #include "keymap/KeyMapGuide.h"
 
-#include "keymap/FittedText.h"
 #include "net/HttpHelper.h"
+#include "widgets/FittedText.h"
 #include "widgets/OvTitleBarBase.h"
 
 #include <QDebug>

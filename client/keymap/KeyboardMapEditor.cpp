@@ -1,6 +1,5 @@
 #include "keymap/KeyboardMapEditor.h"
 
-#include "keymap/FittedText.h"
 #include "keymap/KeyKindButton.h"
 #include "keymap/KeyMapControls.h"
 #include "keymap/KeyboardMapMgr.h"
@@ -10,6 +9,7 @@
 #include "keymap/SchemeBox.h"
 #include "keymap/WrappingCheckBox.h"
 #include "widgets/DpiScaling.h"
+#include "widgets/FittedText.h"
 #include "widgets/OvComboBoxEditableItem.h"
 #include "widgets/OvMaskTipsDialog.h"
 #include "widgets/OvSlider.h"

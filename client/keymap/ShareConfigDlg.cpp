@@ -1,8 +1,8 @@
 #include "keymap/ShareConfigDlg.h"
 
-#include "keymap/FittedText.h"
 #include "widgets/Compositing.h"
 #include "widgets/DpiScaling.h"
+#include "widgets/FittedText.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -6,3 +6,8 @@ int deviceKeyCode(int toolkitKey)
 {
     return Keyboard::GetInstance()->getKeyCode(toolkitKey);
 }
+
+int deviceKeyCodeOfScanCode(quint32 scanCode)
+{
+    return Keyboard::GetInstance()->getKeyCode(Keyboard::NativeScanCode | static_cast<int>(scanCode));
+}

@@ -20,6 +20,9 @@ class VideoView;
 
 namespace stream {
 
+// The longest text that a session takes at once, in bytes of UTF-8.
+constexpr int LongestText = 1024 * 1024;
+
 // What video a session asks for.
 enum StreamMode : int {
     Paused = 0, // none at all, the session stays

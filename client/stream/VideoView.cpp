@@ -18,11 +18,14 @@
 #include <QTransform>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace {
 
 constexpr std::chrono::milliseconds MoveInterval{50};
 constexpr std::chrono::milliseconds GestureInterval{50};
 constexpr int NoFinger = -1;
+constexpr int BgraFormat = -1; // as the SDK numbers it
 
 VideoView::MonotonicClock runningClock()
 {
@@ -73,6 +76,13 @@ void VideoView::setViewMode(int mode)
     m_viewMode = mode;
 }
 
+void VideoView::fitPicturesToView()
+{
+    const QSize pixels = size() * devicePixelRatioF();
+    if (!pixels.isEmpty())
+        setDstFormat(BgraFormat, pixels.width(), pixels.height(), 0);
+}
+
 void VideoView::setStreamController(const std::weak_ptr<StreamController> &controller)
 {
     m_streamController = controller;
@@ -95,6 +105,8 @@ void VideoView::onFrameArrival()
 {
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
+        m_arrivals.pictureHasCome = true;
+        m_arrivals.pictureForgotten = false;
         if (!m_arrivals.visible || m_arrivals.updateQueued)
             return;
         m_arrivals.updateQueued = true;
@@ -107,8 +119,34 @@ void VideoView::presentFrame()
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
         m_arrivals.updateQueued = false;
+        if (m_arrivals.pictureForgotten)
+            return;
     }
     update();
+    tellFirstPicture();
+}
+
+void VideoView::tellFirstPicture()
+{
+    if (!std::exchange(m_hasPicture, true))
+        emit sigFirstPicture();
+}
+
+void VideoView::forgetPicture()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_frameLock);
+        m_arrivals.pictureHasCome = false;
+        m_arrivals.pictureForgotten = true;
+    }
+    m_hasPicture = false;
+    update();
+}
+
+bool VideoView::isPictureForgotten()
+{
+    const std::lock_guard<std::mutex> lock(m_frameLock);
+    return m_arrivals.pictureForgotten;
 }
 
 void VideoView::onScreenRotation(int rotation)
@@ -141,11 +179,15 @@ void VideoView::followRotations()
 
 void VideoView::showEvent(QShowEvent *event)
 {
+    bool pictureHasCome = false;
     {
         const std::lock_guard<std::mutex> lock(m_frameLock);
         m_arrivals.visible = true;
+        pictureHasCome = m_arrivals.pictureHasCome;
     }
     QWidget::showEvent(event);
+    if (pictureHasCome)
+        tellFirstPicture(); // it came while the view was hidden
 }
 
 void VideoView::hideEvent(QHideEvent *event)
@@ -163,7 +205,7 @@ void VideoView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const FrameBufferLock frame(*this);
-    const QImage image = frame.image();
+    const QImage image = isPictureForgotten() ? QImage() : frame.image();
     if (image.isNull()) {
         painter.fillRect(rect(), Qt::white);
         return;
@@ -181,7 +223,7 @@ void VideoView::paintEvent(QPaintEvent *)
 QImage VideoView::picture()
 {
     const FrameBufferLock frame(*this);
-    const QImage image = frame.image();
+    const QImage image = isPictureForgotten() ? QImage() : frame.image();
     if (image.isNull() || m_orientation == ScreenOrientation::Portrait)
         return image.copy();
     return image.transformed(QTransform().rotate(-90));

@@ -57,6 +57,9 @@ public:
     ScreenOrientation orientation() const { return m_orientation; }
     // A stream::ViewMode.
     void setViewMode(int mode);
+    // Takes pictures with no more pixels than the view has, until a stream is started or this is called
+    // again: they are scaled before they are converted, and painted as they are. For small views.
+    void fitPicturesToView();
     // Tells the size of the remote screen; without it no touch is sent.
     void setStreamController(const std::weak_ptr<StreamController> &controller);
     // The key mapping's fingers, or none. Not owned; may be destroyed at any time.
@@ -64,11 +67,14 @@ public:
     // Ends the touch of a mouse button that is held: what it points at is about to change. The button's
     // release is ignored then.
     void liftFinger();
+    // Shows no picture until the next one comes: what is shown is another device's from now on. The session
+    // before must have ended.
+    void forgetPicture();
     // For tests: replaces the clock that spaces the moves.
     void setClock(MonotonicClock clock);
 
-    // The picture that is shown, turned as shown, with its own pixels (720 x 1280, or 1280 x 720); null
-    // before the first.
+    // The picture that is shown, turned as shown, with its own pixels (720 x 1280, or 1280 x 720; after
+    // fitPicturesToView those of the view); null before the first.
     QImage picture();
 
     // SDK threads.
@@ -85,6 +91,8 @@ signals:
     void functionBtnClicked(int keyType);
     void screenRotation(ScreenOrientation orientation);
     void inputEvent(QString inputString);
+    // The first picture can be seen, also the first after forgetPicture.
+    void sigFirstPicture();
     // First thing of the destruction: whoever draws into the view must stop before this returns.
     void sigAboutToBeDestroyed();
 
@@ -119,12 +127,16 @@ private:
     {
         bool visible = false; // whether a new picture is worth painting
         bool updateQueued = false; // presentFrame is on its way
+        bool pictureHasCome = false; // since the beginning or forgetPicture
+        bool pictureForgotten = false; // the one in the frame buffer is not to be shown
         std::vector<int> rotations; // not yet followed, oldest first
     };
 
     Q_INVOKABLE void presentFrame();
     Q_INVOKABLE void followRotations();
 
+    void tellFirstPicture();
+    bool isPictureForgotten();
     void setPosition(const QPointF &position);
     std::optional<QSize> remoteSize() const;
     void appendHeldPoints(QVector<int> &xs, QVector<int> &ys, const QSize &remote) const;
@@ -136,6 +148,7 @@ private:
 
     bool m_pressed = false; // the left mouse button is held on the view
     bool m_ctrlHeld = false; // the wheel pinches
+    bool m_hasPicture = false; // sigFirstPicture was emitted
     bool m_inputDisabled = false; // mouse and wheel are ignored
     float m_percentX = 0; // last pointer position, fraction of the remote portrait frame
     float m_percentY = 0;

@@ -3,6 +3,7 @@
 #include "app/LogManager.h"
 #include "app/TranslateManager.h"
 #include "base/AppPaths.h"
+#include "group/GroupController.h"
 #include "net/HttpHelper.h"
 #include "swplay/SWRuntime.h"
 #include "update/InstallerStart.h"
@@ -101,6 +102,7 @@ void OvMainWindow::createWebContainer()
     view->installEventFilter(this);
     view->setAttribute(Qt::WA_MouseTracking);
     m_jsApi = new OvMainWindowJsApi(view);
+    m_jsApi->setGroupWindowFactory([] { return new GroupController; });
     view->setJsApi(m_jsApi);
     connectJsApi();
     // The page draws its own title area.

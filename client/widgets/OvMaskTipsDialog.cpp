@@ -1,13 +1,10 @@
 #include "widgets/OvMaskTipsDialog.h"
 
-#include <QApplication>
+#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
-#include <QResizeEvent>
 #include <QVBoxLayout>
 
 namespace {
@@ -15,7 +12,6 @@ namespace {
 // Sizes in pixels and colours that make the dialog look as designed.
 namespace Look {
 constexpr int cornerRadius = 8;
-constexpr QRgb mask = qRgba(0, 0, 0, 127);
 constexpr int boxMargin = 16;
 constexpr int boxSpacing = 16;
 constexpr int boxWidth = 320;
@@ -63,7 +59,7 @@ QLabel *createLabel(QWidget *parent, const QString &objectName, int pixelSize, Q
 } // namespace
 
 OvMaskTipsDialog::OvMaskTipsDialog(QWidget *parent)
-    : QDialog(parent)
+    : OvMaskDialog(parent)
     , m_box(new QFrame(this))
     , m_titleLabel(createLabel(m_box, QStringLiteral("titleLabel"), Look::titlePixelSize, Look::titleColor))
     , m_messageLabel(
@@ -71,30 +67,16 @@ OvMaskTipsDialog::OvMaskTipsDialog(QWidget *parent)
     , m_closeButton(createButton(QStringLiteral("closeButton"), closeButtonColors()))
     , m_confirmButton(createButton(QStringLiteral("confirmButton"), confirmButtonColors()))
 {
-    setWindowFlags(Qt::FramelessWindowHint); // with a parent no window of its own
-    setWindowModality(Qt::WindowModal);
     setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_TranslucentBackground, isWindow());
-    setAttribute(Qt::WA_NoMousePropagation);
-    setFocusPolicy(Qt::StrongFocus);
-    setCursor(Qt::ArrowCursor);
-    hide(); // a child would be shown along with its parent
     createBox();
     setTexts();
-    if (parent)
-        parent->installEventFilter(this);
+    setFocusOrder({m_closeButton, m_confirmButton}, m_confirmButton);
 
     connect(m_closeButton, &QPushButton::clicked, this, &OvMaskTipsDialog::reject);
     connect(m_confirmButton, &QPushButton::clicked, this, &OvMaskTipsDialog::confirm);
-    connect(
-        qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *focused) { keepFocus(focused); });
 }
 
-// The focus moves on while the widget dies, when this is no mask dialog any more.
-OvMaskTipsDialog::~OvMaskTipsDialog()
-{
-    disconnect(qApp, nullptr, this, nullptr);
-}
+OvMaskTipsDialog::~OvMaskTipsDialog() = default;
 
 QPushButton *OvMaskTipsDialog::createButton(const QString &objectName, const QString &colors)
 {
@@ -173,7 +155,7 @@ QString OvMaskTipsDialog::text() const
 void OvMaskTipsDialog::reject()
 {
     emit sigCancelBtnClicked();
-    QDialog::reject();
+    OvMaskDialog::reject();
 }
 
 void OvMaskTipsDialog::confirm()
@@ -186,109 +168,5 @@ void OvMaskTipsDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         setTexts();
-    QDialog::changeEvent(event);
-}
-
-// A window behind a modal dialog has no shortcuts.
-bool OvMaskTipsDialog::event(QEvent *event)
-{
-    if (event->type() == QEvent::ShortcutOverride)
-        event->accept();
-    return QDialog::event(event);
-}
-
-// Keys that mean nothing here mean nothing to what is covered either.
-void OvMaskTipsDialog::keyPressEvent(QKeyEvent *event)
-{
-    QDialog::keyPressEvent(event);
-    event->accept();
-}
-
-bool OvMaskTipsDialog::focusNextPrevChild(bool)
-{
-    QPushButton *other = m_confirmButton->hasFocus() ? m_closeButton : m_confirmButton;
-    other->setFocus(Qt::TabFocusReason);
-    return true;
-}
-
-void OvMaskTipsDialog::keepFocus(QWidget *focused)
-{
-    if (!isVisible() || !focused || focused->window() != window())
-        return;
-    for (QWidget *holder = focused; holder; holder = holder->parentWidget()) {
-        if (qobject_cast<OvMaskTipsDialog *>(holder))
-            return; // this one or one above it
-    }
-    m_confirmButton->setFocus();
-}
-
-// The mask keeps its distance from the edges of the window.
-bool OvMaskTipsDialog::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == parent() && event->type() == QEvent::Resize && isVisible() && !isWindow()) {
-        const auto *resized = static_cast<QResizeEvent *>(event);
-        setMaskSize(size() + resized->size() - resized->oldSize());
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
-void OvMaskTipsDialog::setMaskSize(const QSize &size)
-{
-    if (minimumSize() == maximumSize())
-        setFixedSize(size);
-    else
-        resize(size);
-}
-
-// At a fractional scale the window may be a pixel smaller than its content was meant to be.
-void OvMaskTipsDialog::takeRoundingOff()
-{
-    const QSize room = parentWidget()->size() - 2 * QSize(x(), y());
-    const QSize over = size() - room;
-    if (over.width() <= 1 && over.height() <= 1)
-        setMaskSize(size().boundedTo(room));
-}
-
-// What a dialog does here is to look for a place on the screen; a mask has its place.
-void OvMaskTipsDialog::showEvent(QShowEvent *event)
-{
-    if (isWindow())
-        QDialog::showEvent(event);
-    else
-        takeRoundingOff();
-    raise();
-    m_confirmButton->setFocus();
-}
-
-// Nobody can answer it any more, and whoever waits for the answer would wait for ever. Not within the event:
-// a window that is being destroyed hides as well, and must not be told anything.
-void OvMaskTipsDialog::hideEvent(QHideEvent *event)
-{
-    QDialog::hideEvent(event);
-    if (!event->spontaneous() && !isHidden())
-        QMetaObject::invokeMethod(this, &OvMaskTipsDialog::endWithItsWindow, Qt::QueuedConnection);
-}
-
-void OvMaskTipsDialog::endWithItsWindow()
-{
-    if (!isVisible() && !isHidden())
-        reject();
-}
-
-void OvMaskTipsDialog::setVisible(bool visible)
-{
-    if (visible && !isVisible())
-        m_focusBefore = window()->focusWidget();
-    QDialog::setVisible(visible);
-    if (!visible && m_focusBefore && m_focusBefore->isVisible())
-        m_focusBefore->setFocus();
-}
-
-void OvMaskTipsDialog::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor::fromRgba(Look::mask));
-    painter.drawRoundedRect(rect(), Look::cornerRadius, Look::cornerRadius);
+    OvMaskDialog::changeEvent(event);
 }

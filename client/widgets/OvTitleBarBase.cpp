@@ -11,6 +11,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyleOption>
 
 namespace {
 
@@ -251,7 +252,8 @@ void OvTitleBarBase::mouseDoubleClickEvent(QMouseEvent *event)
     event->accept();
 }
 
-// Round upper corners follow the window's body; below, the content begins.
+// Round upper corners follow the window's body; below, the content begins. What a style sheet adds comes on
+// top.
 void OvTitleBarBase::paintEvent(QPaintEvent *)
 {
     QPainterPath shape;
@@ -261,4 +263,9 @@ void OvTitleBarBase::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(shape, m_backgroundColor);
+    if (testAttribute(Qt::WA_StyledBackground)) {
+        QStyleOption option;
+        option.init(this);
+        style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
+    }
 }

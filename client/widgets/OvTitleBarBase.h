@@ -12,7 +12,8 @@ class QLabel;
 class QPushButton;
 
 // The title bar of a frameless window: icon, title, an area for extra widgets and the caption buttons.
-// Dragging it moves its window. It never resizes anything itself: the window acts on its signals.
+// Dragging it moves its window. With Qt::WA_StyledBackground it also has the borders of its style sheet. It
+// never resizes anything itself: the window acts on its signals.
 //
 // GUI thread; child of its window.
 class OvTitleBarBase : public QWidget

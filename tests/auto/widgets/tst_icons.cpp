@@ -23,13 +23,16 @@ private slots:
 void TestIcons::icons_data()
 {
     QTest::addColumn<QString>("path");
-    for (const char *path : {":/icon/svg/emitHome.svg", ":/icon/svg/volumeUp.svg",
-             ":/icon/svg/volumeDown.svg", ":/icon/svg/snapshot.svg", ":icon/svg/switchScreen.svg",
-             ":icon/svg/key.svg", ":icon/svg/useLastConfig.svg", ":/icon/svg/switchScreen.svg",
-             ":/icon/svg/key.svg", ":/icon/svg/useLastConfig.svg", ":/icon/svg/arrowDown.svg",
-             ":/icon/svg/addConfig.svg", ":/icon/svg/refreshConfigList.svg", ":icon/svg/option_click.svg",
-             ":icon/svg/option_walking.svg", ":icon/svg/option_crosshair.svg", ":/icon/svg/optionEdit.svg",
-             ":/icon/svg/optionShare.svg", ":/icon/svg/optionCopy.svg", ":/icon/svg/optionDelete.svg"})
+    for (const char *path :
+        {":/icon/svg/emitHome.svg", ":/icon/svg/volumeUp.svg", ":/icon/svg/volumeDown.svg",
+            ":/icon/svg/snapshot.svg", ":icon/svg/switchScreen.svg", ":icon/svg/key.svg",
+            ":icon/svg/useLastConfig.svg", ":/icon/svg/switchScreen.svg", ":/icon/svg/key.svg",
+            ":/icon/svg/useLastConfig.svg", ":/icon/svg/arrowDown.svg", ":/icon/svg/addConfig.svg",
+            ":/icon/svg/refreshConfigList.svg", ":icon/svg/option_click.svg", ":icon/svg/option_walking.svg",
+            ":icon/svg/option_crosshair.svg", ":/icon/svg/optionEdit.svg", ":/icon/svg/optionShare.svg",
+            ":/icon/svg/optionCopy.svg", ":/icon/svg/optionDelete.svg", ":/icon/svg/group-save.svg",
+            ":/icon/svg/volume-up.svg", ":/icon/svg/volume-down.svg", ":/icon/svg/group-reboot.svg",
+            ":/icon/svg/group-back.svg", ":/icon/svg/group-home.svg", ":/icon/svg/group-menu.svg"})
         QTest::newRow(path) << QString::fromLatin1(path);
 }
 
@@ -59,7 +62,8 @@ void TestIcons::family()
 {
     for (const char *name : {"emitHome", "volumeUp", "volumeDown", "snapshot", "switchScreen", "key",
              "useLastConfig", "addConfig", "refreshConfigList", "option_click", "option_walking",
-             "option_crosshair", "optionEdit", "optionShare", "optionCopy", "optionDelete"}) {
+             "option_crosshair", "optionEdit", "optionShare", "optionCopy", "optionDelete", "group-save",
+             "volume-up", "volume-down", "group-reboot", "group-back", "group-home", "group-menu"}) {
         QFile file(QStringLiteral(":/icon/svg/%1.svg").arg(QLatin1String(name)));
         QVERIFY2(file.open(QFile::ReadOnly), name);
         QVERIFY2(file.readAll().contains(

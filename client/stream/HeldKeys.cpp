@@ -1,4 +1,4 @@
-#include "device/HeldKeys.h"
+#include "stream/HeldKeys.h"
 
 #include <algorithm>
 

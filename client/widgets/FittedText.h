@@ -5,7 +5,7 @@
 
 class QString;
 
-// Finds a font in which a text has room, since the layouts of the key mapping are given in pixels and some
+// Finds a font in which a text has room, since many layouts are given in pixels and some
 // languages need more of them. Pure functions; GUI thread.
 namespace FittedText {
 

@@ -1,4 +1,4 @@
-#include "keymap/FittedText.h"
+#include "widgets/FittedText.h"
 
 #include <QFontMetrics>
 #include <QString>

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "group/GroupDevice.h"
+#include "group/SubController.h"
+#include "stream/VideoView.h"
+
+#include <Recorder.h>
+
+#include <QImage>
+#include <QList>
+#include <QStringList>
+
+// What the tests of a group's tiles share.
+namespace grouptest {
+
+// A device as the service grants it: "100007" is "Device 7", VM100007 at the gateway.
+inline group::GroupDevice device(int number)
+{
+    group::GroupDevice device;
+    device.serviceId = QString::number(100000 + number);
+    device.aliasName = QStringLiteral("Device %1").arg(number);
+    device.instanceCode = QStringLiteral("VM%1").arg(100000 + number);
+    device.userId = 17;
+    device.sessionId = QStringLiteral("s-%1").arg(number);
+    device.controlIp = QStringLiteral("10.1.2.3");
+    device.controlPort = 8181;
+    return device;
+}
+
+// Devices 1 to `count`.
+inline QList<group::GroupDevice> devices(int count)
+{
+    QList<group::GroupDevice> list;
+    for (int i = 1; i <= count; ++i)
+        list.append(device(i));
+    return list;
+}
+
+// What the SDK was asked to do so far and not taken yet; not what it was only asked for.
+inline QStringList recordedCalls(std::vector<std::string> calls)
+{
+    QStringList list;
+    for (const std::string &call : calls) {
+        if (call.find("getVideoLevelResult") == std::string::npos)
+            list.append(QString::fromStdString(call));
+    }
+    return list;
+}
+
+inline QStringList takeCalls()
+{
+    return recordedCalls(Recorder::instance().takeCalls());
+}
+
+// The input among the calls so far, which stay.
+inline QStringList sentInput()
+{
+    return recordedCalls(Recorder::instance().calls()).filter(QStringLiteral("SWDataSource::send"));
+}
+
+inline QString touchCall(int action, int x, int y)
+{
+    return QStringLiteral("SWDataSource::sendTouchEvent(%1, 1, [%2], [%3], [0])").arg(action).arg(x).arg(y);
+}
+
+inline QString keyCall(int action, int key)
+{
+    return QStringLiteral("SWDataSource::sendKeyEvent(%1, %2)").arg(action).arg(key);
+}
+
+inline QString textCall(const QString &text)
+{
+    return QStringLiteral("SWDataSource::sendInputString(\"%1\", %2)").arg(text).arg(text.length() + 1);
+}
+
+inline QString castCall(int mode)
+{
+    return QStringLiteral("SWDataSource::screenCast(%1)").arg(mode);
+}
+
+// Leaves a picture of one colour in the tile's view as the SDK does.
+inline void showDevicePicture(const SubController &tile, const QColor &colour)
+{
+    VideoView &view = *tile.videoView();
+    QImage image(view.size() * view.devicePixelRatioF(), QImage::Format_RGB32);
+    image.fill(colour);
+    showPicture(
+        view, reinterpret_cast<const std::uint32_t *>(image.constBits()), image.width(), image.height());
+}
+
+} // namespace grouptest
