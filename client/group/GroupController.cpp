@@ -311,14 +311,14 @@ void GroupController::onDeviceExpired(const QString &serviceId, const QString &d
 }
 
 // The first tile's device becomes the master, and the expired one, in its tile then, leaves. While the
-// question was open, another master may have taken the expired one's place.
+// question was open, another master may have taken the expired one's place; then only the expired one leaves.
 void GroupController::reassignMaster(const QString &expiredId)
 {
-    SubController *first = m_subControlPage->controllerAt(0);
-    if (expiredId != m_mainController->serviceId() || !first)
-        return;
-    emit first->setAsMainController();
-    if (SubController *expired = m_subControlPage->controllerAt(0))
+    if (expiredId == m_mainController->serviceId()) {
+        if (SubController *first = m_subControlPage->controllerAt(0))
+            emit first->setAsMainController();
+    }
+    if (SubController *expired = m_subControlPage->findController(expiredId))
         emit expired->removeController(true);
 }
 
