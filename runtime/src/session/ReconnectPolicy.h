@@ -17,7 +17,7 @@ public:
     using Random = std::function<double()>; // uniform in [0, 1)
 
     static constexpr std::chrono::milliseconds FirstDelay{250};
-    static constexpr std::chrono::milliseconds MaxDelay{3000}; // a gateway that returns has its sessions back within 5 s
+    static constexpr std::chrono::milliseconds MaxDelay{8000};
     // A connection that lasted less than this was not a good one: it does not earn a try at once.
     static constexpr std::chrono::milliseconds StableAfter{2000};
 
@@ -30,7 +30,7 @@ public:
     void lost(TimePoint now);
 
     // The delay before the next try. `atOnceAllowed`: whether it may be zero; false where the gateway asked
-    // for time. Every other delay lies between half of its step and its step: 250, 500, 1000, 2000, 3000 ms.
+    // for time. Every other delay lies between half of its step and its step: 250, 500, ... 8000 ms.
     std::chrono::milliseconds nextDelay(bool atOnceAllowed = true);
 
 private:

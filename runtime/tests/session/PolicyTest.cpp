@@ -28,15 +28,15 @@ using Delays = std::vector<std::int64_t>;
 
 } // namespace
 
-TEST(ReconnectPolicy, FirstTryAtOnceThenBackingOffTo3SecondsForEver)
+TEST(ReconnectPolicy, FirstTryAtOnceThenBackingOffTo8SecondsForEver)
 {
     ReconnectPolicy longest([] { return 1.0; });
-    EXPECT_EQ(delays(longest, 10), (Delays{0, 250, 500, 1000, 2000, 3000, 3000, 3000, 3000, 3000}));
+    EXPECT_EQ(delays(longest, 10), (Delays{0, 250, 500, 1000, 2000, 4000, 8000, 8000, 8000, 8000}));
     for (int i = 0; i < 100'000; ++i)
         longest.nextDelay();
-    EXPECT_EQ(longest.nextDelay(), 3000ms);
+    EXPECT_EQ(longest.nextDelay(), 8000ms);
     ReconnectPolicy shortest([] { return 0.0; });
-    EXPECT_EQ(delays(shortest, 8), (Delays{0, 125, 250, 500, 1000, 1500, 1500, 1500}));
+    EXPECT_EQ(delays(shortest, 8), (Delays{0, 125, 250, 500, 1000, 2000, 4000, 4000}));
 }
 
 TEST(ReconnectPolicy, GoodConnectionEarnsATryAtOnce)
