@@ -51,7 +51,12 @@ DeviceKeyMapping::DeviceKeyMapping(VideoView *view, OvWindowBase *window)
     connect(m_editor, &KeyboardMapEditor::sigSizeValueChanged, this, &DeviceKeyMapping::sigOperation);
 }
 
-DeviceKeyMapping::~DeviceKeyMapping() = default;
+// The tutorial is a window of its own.
+DeviceKeyMapping::~DeviceKeyMapping()
+{
+    if (m_guide)
+        m_guide->close();
+}
 
 // ---- Keys
 // -----------------------------------------------------------------------------------------------------

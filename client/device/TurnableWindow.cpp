@@ -111,18 +111,22 @@ void TurnableWindow::setEditingShape(bool editing)
 {
     if (editing == m_hasEditingShape)
         return;
+    const QRect area = availableGeometry();
+    const QPoint corner = m_maximized ? titleBar()->normalGeometry().topLeft() : pos();
     if (editing) {
         m_wasMaximized = m_maximized;
         if (m_maximized)
             toggleMaximized();
     }
     m_hasEditingShape = editing;
-    m_placings = 0;
-    const QRect area = availableGeometry();
     setResizeLocked(editing);
     titleBar()->setButtonType(editing ? OvTitleBarBase::MinCloseButtons : OvTitleBarBase::MinMaxCloseButtons);
     applyContent(DeviceWindowShape::fitted(normalContentSize(), area.size()));
-    moveInto(area);
+    if (isVisible()) {
+        const QPoint margin(shadowMargin(), shadowMargin());
+        const QRect body(corner + margin, contentSize());
+        place({DeviceWindowShape::positionWithin(area, body) - margin, size()});
+    }
     if (!editing && m_wasMaximized)
         toggleMaximized();
 }

@@ -27,11 +27,11 @@
 namespace e2e {
 
 // One user with a device window, who edits and plays: the real window at the real service. Requests are those
-// of the user who has signed in last. Throws StepFailed.
+// of the user who has signed in last. Whatever does not come to pass throws StepFailed.
 class KeyMappingSession
 {
 public:
-    // `device`: which of the service's devices, as GET /admin/devices lists them.
+    // Opens the window; its video is there when this returns.
     KeyMappingSession(Service &service, const QString &serviceId, const QString &pad)
         : m_service(service)
         , m_pad(pad)

@@ -353,6 +353,13 @@ void tst_SingleControllerPlaying::tutorial()
     QCOMPARE(guides().size(), 1); // the same one
     window().close();
     QTRY_VERIFY(!guide);
+    // Nor does it outlive a window that is destroyed at once.
+    f().makeWindow();
+    window().onTutorialBtnClicked();
+    QCOMPARE(guides().size(), 1);
+    const QPointer<KeyMapGuide> second = guides().first();
+    m_fixture->window.reset();
+    QTRY_VERIFY(!second);
 }
 
 void tst_SingleControllerPlaying::sharing()
