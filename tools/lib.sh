@@ -10,7 +10,7 @@ build_packages=(
     qtbase5-dev qtwebengine5-dev libqt5webchannel5-dev libqt5svg5-dev libqt5x11extras5-dev qttools5-dev-tools
     qtmultimedia5-dev libqt5multimedia5-plugins gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
     libprotobuf-dev protobuf-compiler libboost-dev libssl-dev
-    libavcodec-dev libavutil-dev libyuv-dev libx264-dev libsqlite3-dev
+    libavcodec-dev libavutil-dev libyuv-dev libx264-dev libsqlite3-dev libyaml-cpp-dev
     fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core
 )
 # What a virtual display needs.

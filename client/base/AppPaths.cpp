@@ -19,6 +19,11 @@ QString dumpDir()
     return dataDir() + QStringLiteral("/dump");
 }
 
+QString pendingDir()
+{
+    return dataDir() + QStringLiteral("/pending");
+}
+
 QString settingsFile()
 {
     return dataDir() + QStringLiteral("/config/config.ini");

@@ -13,6 +13,8 @@ QString dataDir();
 QString logDir();
 // Crash dumps.
 QString dumpDir();
+// The installer of a new version, while it is downloaded and until it is used.
+QString pendingDir();
 // The INI file that AppSettings reads and writes.
 QString settingsFile();
 

@@ -5,6 +5,8 @@
 #include "base/AppPaths.h"
 #include "net/HttpHelper.h"
 #include "swplay/SWRuntime.h"
+#include "update/InstallerStart.h"
+#include "update/OvUpdateDialog.h"
 #include "web/OvMainWindowJsApi.h"
 #include "web/OvWebContainer.h"
 #include "web/OvWebView.h"
@@ -85,8 +87,9 @@ OvMainWindow::OvMainWindow(QWidget *parent)
 OvMainWindow::~OvMainWindow()
 {
     SWRuntime::getInstance()->deinit();
-    if (!m_installerOnExit.isEmpty() && QFileInfo::exists(m_installerOnExit))
-        QProcess::startDetached(m_installerOnExit, {});
+    delete m_updateDialog; // it may be about to replace the installer
+    if (m_installOnExit && QFileInfo::exists(m_installerOnExit))
+        startInstaller(m_installerOnExit);
 }
 
 void OvMainWindow::createWebContainer()
@@ -114,6 +117,7 @@ void OvMainWindow::connectJsApi()
     connect(m_jsApi, &OvJsApi::sigMaximizeWindow, this, &OvMainWindow::onMaximizeWindow);
     connect(m_jsApi, &OvJsApi::sigRestoreWindow, this, &OvMainWindow::onRestoreWindow);
     connect(m_jsApi, &OvMainWindowJsApi::sigLogout, this, &OvMainWindow::onLogout);
+    connect(m_jsApi, &OvMainWindowJsApi::sigUpdateNewVersion, this, &OvMainWindow::onUpdateNewVersion);
     connect(m_jsApi, &OvJsApi::sigSetLanguage, this, &OvMainWindow::onSetLanguage);
 }
 
@@ -240,14 +244,36 @@ void OvMainWindow::onSetLanguage(const QString &lang)
     HttpHelper::setLanguage(lang);
 }
 
+OvUpdateDialog *OvMainWindow::updateDialog() const
+{
+    return m_updateDialog;
+}
+
+void OvMainWindow::onUpdateNewVersion(const QString &updatePath, const QJsonArray &fileInfo)
+{
+    const bool isNew = !m_updateDialog;
+    if (isNew) {
+        m_updateDialog = new OvUpdateDialog;
+        connect(m_updateDialog, &OvUpdateDialog::sigInstallNewVersionApp, this,
+            &OvMainWindow::onInstallNewVersionApp);
+    }
+    m_updateDialog->showNormal();
+    m_updateDialog->raise();
+    m_updateDialog->activateWindow();
+    if (isNew)
+        centerOnScreen(m_updateDialog);
+    m_updateDialog->updateNewVersion(updatePath, fileInfo);
+}
+
 void OvMainWindow::onInstallNewVersionApp(const QString &filePath, bool delayInstall)
 {
+    m_installOnExit = delayInstall; // what is started now must not be started again
+    m_installerOnExit = filePath;
     if (delayInstall) {
-        m_installerOnExit = filePath;
+        qInfo().noquote() << "the installer will be started when the client ends:" << filePath;
         return;
     }
-    if (!QProcess::startDetached(filePath, {}))
-        qWarning().noquote() << "the installer did not start:" << filePath;
+    startInstaller(filePath);
     close();
 }
 

@@ -3,10 +3,13 @@
 #include "web/RelativeMove.h"
 #include "widgets/OvWindowBase.h"
 
+#include <QJsonArray>
+#include <QPointer>
 #include <QRect>
 #include <QSize>
 
 class OvMainWindowJsApi;
+class OvUpdateDialog;
 class OvWebContainer;
 
 // The client's one main window: a frameless window whose body is the web front end. Before sign-in it has the
@@ -25,6 +28,8 @@ public:
 
     void updateWindowSize() override;
 
+    // The one that is open, or none.
+    OvUpdateDialog *updateDialog() const;
     OvWebContainer *webContainer() const { return m_webContainer; }
     OvMainWindowJsApi *jsApi() const { return m_jsApi; }
 
@@ -46,6 +51,9 @@ public slots:
     // Back to the sign-in page and its size.
     void onLogout();
     void onSetLanguage(const QString &lang);
+    // Opens the update dialog and starts the update, see OvUpdateDialog. A dialog that is open is brought
+    // back; it starts again if its update has failed.
+    void onUpdateNewVersion(const QString &updatePath, const QJsonArray &fileInfo);
     // Starts a downloaded installer: at once, closing the client, or when the client ends.
     void onInstallNewVersionApp(const QString &filePath, bool delayInstall);
     void onMaximumShortcutActivated();
@@ -70,5 +78,7 @@ private:
     bool m_maximizeAllowed = false; // false before sign-in
     QPoint m_normalPos; // before maximising
     QSize m_normalSize; // content, before maximising
-    QString m_installerOnExit; // empty: none
+    QPointer<OvUpdateDialog> m_updateDialog; // deletes itself when it is closed
+    QString m_installerOnExit; // path; of use while m_installOnExit
+    bool m_installOnExit = false;
 };

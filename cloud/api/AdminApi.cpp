@@ -21,12 +21,6 @@ constexpr std::int64_t maxStallMs = 600'000;
 constexpr std::int64_t maxKbitPerSec = 10'000'000;
 constexpr std::int64_t maxCorruptedUnits = 100'000;
 constexpr std::uint64_t maxPictureSide = 1280;
-constexpr std::int64_t maxVersionCode = 1'000'000'000;
-constexpr std::size_t maxNotesBytes = 65'536;
-constexpr std::size_t maxUrlBytes = 2048;
-constexpr std::size_t maxReleaseFiles = 100;
-constexpr std::size_t maxFileNameBytes = 255;
-constexpr std::int64_t maxFileBytes = 1'000'000'000'000;
 
 QString text(const std::string &utf8)
 {
@@ -72,7 +66,6 @@ void AdminApi::addRoutes(Router &router)
     add(Verb::post, "/admin/connections/stall", &AdminApi::stall);
     add(Verb::post, "/admin/connections/bandwidth", &AdminApi::limitBandwidth);
     add(Verb::post, "/admin/connections/corrupt", &AdminApi::corrupt);
-    add(Verb::post, "/admin/release", &AdminApi::setRelease);
     add(Verb::get, "/admin/stats", &AdminApi::stats);
 }
 
@@ -196,24 +189,6 @@ ApiAnswer AdminApi::corrupt(const ApiCall &call)
     const std::string padCode = padOfBody(call);
     return connectionCount(
         m_fleet.corruptVideo(padCode, static_cast<int>(call.body.integer("count", 1, maxCorruptedUnits))));
-}
-
-ApiAnswer AdminApi::setRelease(const ApiCall &call)
-{
-    Release release;
-    release.version = call.body.emptyOrText("version");
-    if (release.version.empty()) {
-        m_data.releases.withdraw();
-        return {};
-    }
-    release.versionCode = call.body.integer("version_code", 1, maxVersionCode);
-    release.notes = call.body.lines("notes", maxNotesBytes);
-    release.updatePath = call.body.text("update_path", maxUrlBytes);
-    for (const Fields &file : call.body.objects("files", maxReleaseFiles))
-        release.files.push_back(
-            {file.text("file_name", maxFileNameBytes), file.integer("size", 0, maxFileBytes)});
-    m_data.releases.offer(release);
-    return {};
 }
 
 ApiAnswer AdminApi::stats(const ApiCall &)

@@ -36,7 +36,6 @@ private:
     ApiAnswer stall(const ApiCall &call);
     ApiAnswer limitBandwidth(const ApiCall &call);
     ApiAnswer corrupt(const ApiCall &call);
-    ApiAnswer setRelease(const ApiCall &call);
     ApiAnswer stats(const ApiCall &call);
 
     void demandDevice(const std::string &padCode) const;

@@ -17,6 +17,7 @@ struct ApiCall
 {
     Fields body; // members of the JSON body; empty for GET
     Fields query; // values of the query as texts
+    std::string host; // how the client calls this service, with the port if it is not 80
     std::string pad; // the {pad} of the path, "" if its pattern has none
     std::int64_t clientVersionCode = 0; // "pc-version"; 0 if it is missing or no number
     SignIn signIn; // who calls; unset for routes that are open to everybody

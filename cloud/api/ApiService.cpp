@@ -13,6 +13,7 @@ ApiService::ApiService(ServiceData &data, DeviceFleet &fleet, const HttpServerOp
     , m_clientApi(data)
     , m_keyMapApi(data)
     , m_adminApi(data, fleet, m_expiryWatch)
+    , m_releaseApi(data)
     , m_server(options, [this](const HttpRequest &request) { return m_router.handle(request); })
 {
     m_userApi.addRoutes(m_router);
@@ -21,6 +22,7 @@ ApiService::ApiService(ServiceData &data, DeviceFleet &fleet, const HttpServerOp
     m_clientApi.addRoutes(m_router);
     m_keyMapApi.addRoutes(m_router);
     m_adminApi.addRoutes(m_router);
+    m_releaseApi.addRoutes(m_router);
 }
 
 void ApiService::start()

@@ -7,6 +7,7 @@
 #include "api/ExpiryWatch.h"
 #include "api/HttpServer.h"
 #include "api/KeyMapApi.h"
+#include "api/ReleaseApi.h"
 #include "api/Router.h"
 #include "api/UserApi.h"
 
@@ -37,6 +38,7 @@ private:
     ClientApi m_clientApi;
     KeyMapApi m_keyMapApi;
     AdminApi m_adminApi;
+    ReleaseApi m_releaseApi;
     HttpServer m_server;
 };
 

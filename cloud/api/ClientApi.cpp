@@ -14,8 +14,16 @@ namespace {
 // Minutes before the end of a device's time at which the page warns, descending.
 constexpr std::array expireNoticeMinutes{30, 10, 5};
 
-QJsonObject describe(const Release &release)
+// Where this service has the files of its own release, as the client reaches it.
+QString ownUpdatePath(const std::string &host)
 {
+    return QStringLiteral("http://%1/release").arg(QString::fromStdString(host));
+}
+
+QJsonObject describe(const Release &release, const std::string &host)
+{
+    const QString updatePath
+        = release.updatePath.empty() ? ownUpdatePath(host) : QString::fromStdString(release.updatePath);
     QJsonArray files;
     for (const Release::File &file : release.files)
         files.append(QJsonObject{{QStringLiteral("file_name"), QString::fromStdString(file.name)},
@@ -25,8 +33,7 @@ QJsonObject describe(const Release &release)
         {QStringLiteral("version_code"), QString::number(release.versionCode)},
         {QStringLiteral("notes"), QString::fromStdString(release.notes)},
         {QStringLiteral("pc_update_info"),
-            QJsonObject{{QStringLiteral("update_path"), QString::fromStdString(release.updatePath)},
-                {QStringLiteral("file_info"), files}}}};
+            QJsonObject{{QStringLiteral("update_path"), updatePath}, {QStringLiteral("file_info"), files}}}};
 }
 
 } // namespace
@@ -56,7 +63,7 @@ ApiAnswer ClientApi::update(const ApiCall &call) const
     const std::optional<Release> release = m_data.releases.newest();
     if (!release || release->versionCode <= call.clientVersionCode)
         return {{{QStringLiteral("has_update"), false}}, {}};
-    return {describe(*release), {}};
+    return {describe(*release, call.host), {}};
 }
 
 } // namespace orvane::cloud

@@ -58,6 +58,8 @@ HttpConnection::~HttpConnection()
 void HttpConnection::end()
 {
     m_ending = true;
+    if (m_file)
+        m_file->cancel();
     if (!m_handling)
         m_stream.close();
 }
@@ -119,27 +121,41 @@ void HttpConnection::handle()
 {
     m_handling = true;
     asio::post(m_context.workers, [self = shared_from_this()]() mutable {
-        HttpResponse response = self->m_context.handler(self->m_request);
+        HttpReply reply = self->m_context.handler(self->m_request);
         const auto executor = self->m_stream.get_executor();
-        asio::post(executor, [self = std::move(self), response = std::move(response)]() mutable {
-            self->write(std::move(response), self->m_request.message.keep_alive());
+        asio::post(executor, [self = std::move(self), reply = std::move(reply)]() mutable {
+            self->write(std::move(reply), self->m_request.message.keep_alive());
         });
     });
 }
 
-void HttpConnection::write(HttpResponse response, bool keepAlive)
+void HttpConnection::write(HttpReply reply, bool keepAlive)
 {
     m_handling = false;
-    m_response = std::move(response);
+    m_response = std::move(reply.message);
     m_response.version(11);
     m_response.set(http::field::server, serverName);
     m_response.keep_alive(keepAlive && !m_ending);
-    // A reply without content has no length either.
-    if (m_response.result() != http::status::no_content)
+    if (reply.file) {
+        m_response.content_length(reply.file->bytes);
+        m_file
+            = std::make_unique<FileSender>(m_stream, std::move(*reply.file), m_context.options.writeTimeout);
+    } else if (m_response.result() != http::status::no_content) { // which has no length either
         m_response.prepare_payload();
+    }
     m_stream.expires_after(m_ending ? lingerTime : m_context.options.writeTimeout);
     http::async_write(m_stream, m_response,
-        [self = shared_from_this()](ErrorCode error, std::size_t) { self->onWritten(error); });
+        [self = shared_from_this()](ErrorCode error, std::size_t) { self->onHeadWritten(error); });
+}
+
+void HttpConnection::onHeadWritten(ErrorCode error)
+{
+    if (error || !m_file || m_ending) // a file may take longer than anyone waits for the end
+        return onWritten(error);
+    m_file->start([self = shared_from_this()](ErrorCode fileError) {
+        self->m_file.reset();
+        self->onWritten(fileError);
+    });
 }
 
 void HttpConnection::onWritten(ErrorCode error)

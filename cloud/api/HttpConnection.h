@@ -1,5 +1,6 @@
 #pragma once
 
+#include "api/FileSender.h"
 #include "api/HttpMessages.h"
 #include "api/HttpServerOptions.h"
 
@@ -60,7 +61,8 @@ private:
     void onBody(ErrorCode error);
     void onReadFailed(ErrorCode error);
     void handle();
-    void write(HttpResponse response, bool keepAlive);
+    void write(HttpReply reply, bool keepAlive);
+    void onHeadWritten(ErrorCode error);
     void onWritten(ErrorCode error);
     // Says goodbye and waits until the client has read the reply; closing with data unread would destroy it.
     void linger();
@@ -75,6 +77,7 @@ private:
     HttpRequest m_request; // the worker's while a request is handled
     boost::beast::http::response<boost::beast::http::empty_body> m_continue;
     HttpResponse m_response;
+    std::unique_ptr<FileSender> m_file; // the body of m_response, if it is a file
     std::array<char, 4096> m_drained{};
 };
 

@@ -54,6 +54,14 @@ HttpResponse answerReply(const ApiAnswer &answer)
     return reply;
 }
 
+HttpReply fileReply(FileDelivery file)
+{
+    HttpResponse reply = newReply(http::status::ok);
+    reply.set(http::field::content_type, "application/octet-stream");
+    reply.set(http::field::cache_control, "no-store");
+    return {std::move(reply), std::move(file)};
+}
+
 HttpResponse errorReply(http::status status, const std::string &message)
 {
     return jsonReply(status, static_cast<int>(status), message, QJsonObject());

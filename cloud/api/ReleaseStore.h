@@ -21,7 +21,7 @@ struct Release
     std::string version; // for people: "1.3.0"
     std::int64_t versionCode = 0; // what versions are compared by
     std::string notes; // for people; lines
-    std::string updatePath; // URL of the folder that the files are in
+    std::string updatePath; // URL of the folder that the files are in; empty = this service's own
     std::vector<File> files;
 };
 

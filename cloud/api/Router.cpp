@@ -18,7 +18,10 @@ namespace http = boost::beast::http;
 
 namespace {
 
-constexpr std::string_view padSegment = "{pad}";
+bool isParameter(std::string_view segment)
+{
+    return segment == "{pad}" || segment == "{file}";
+}
 
 std::string_view view(boost::beast::string_view text)
 {
@@ -113,10 +116,15 @@ Router::Router(SignInStore &signIns)
 
 void Router::add(Verb method, std::string_view pattern, Access access, Handler handler)
 {
-    m_routes.push_back({method, segmentsOf(pattern), access, std::move(handler)});
+    m_routes.push_back({method, segmentsOf(pattern), access, std::move(handler), {}});
 }
 
-HttpResponse Router::handle(const HttpRequest &request) const
+void Router::addFiles(std::string_view pattern, FileHandler handler)
+{
+    m_routes.push_back({Verb::get, segmentsOf(pattern), Access::Everybody, {}, std::move(handler)});
+}
+
+HttpReply Router::handle(const HttpRequest &request) const
 {
     const std::string_view target = view(request.message.target());
     const std::string_view path = target.substr(0, target.find('?'));
@@ -152,7 +160,7 @@ Router::Match Router::match(Verb method, const std::vector<std::string> &segment
             continue;
         const bool same = std::equal(route.segments.begin(), route.segments.end(), segments.begin(),
             segments.end(), [](const std::string &pattern, const std::string &segment) {
-                return pattern == segment || (pattern == padSegment && !segment.empty());
+                return pattern == segment || (isParameter(pattern) && !segment.empty());
             });
         if (!same)
             continue;
@@ -160,22 +168,29 @@ Router::Match Router::match(Verb method, const std::vector<std::string> &segment
         if (route.method != method)
             continue;
         match.route = &route;
-        const auto position = std::find(route.segments.begin(), route.segments.end(), padSegment);
+        const auto position = std::find_if(route.segments.begin(), route.segments.end(), isParameter);
         if (position != route.segments.end())
-            match.pad = decoded(segments[static_cast<std::size_t>(position - route.segments.begin())]);
+            match.parameter = decoded(segments[static_cast<std::size_t>(position - route.segments.begin())]);
     }
     return match;
 }
 
-HttpResponse Router::answer(const HttpRequest &request, const Match &match) const
+HttpReply Router::answer(const HttpRequest &request, const Match &match) const
 {
+    if (match.route->fileHandler) {
+        std::optional<FileDelivery> file = match.route->fileHandler(match.parameter);
+        if (!file)
+            return errorReply(http::status::not_found, "There is no such file.");
+        return fileReply(std::move(*file));
+    }
     const std::string_view target = view(request.message.target());
     const std::size_t queryBegin = target.find('?');
     ApiCall call;
     call.body = Fields(bodyObject(request));
     if (queryBegin != std::string_view::npos)
         call.query = Fields(queryValues(target.substr(queryBegin + 1)));
-    call.pad = match.pad;
+    call.pad = match.parameter;
+    call.host = view(request.message[http::field::host]);
     call.clientVersionCode = versionCode(view(request.message["pc-version"]));
     if (match.route->access == Access::SignedIn)
         call.signIn = signInOf(request);

@@ -7,6 +7,7 @@
 #include <boost/beast/http/verb.hpp>
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,7 +38,13 @@ public:
     // `pattern` is a path; a segment {pad} takes any value and reaches the handler as ApiCall::pad.
     void add(Verb method, std::string_view pattern, Access access, Handler handler);
 
-    HttpResponse handle(const HttpRequest &request) const;
+    // Gives the file of that name, or none.
+    using FileHandler = std::function<std::optional<FileDelivery>(const std::string &name)>;
+    // GET for everybody of the files that a pattern with a segment {file} stands for. One that is not there
+    // is an HTTP error.
+    void addFiles(std::string_view pattern, FileHandler handler);
+
+    HttpReply handle(const HttpRequest &request) const;
 
 private:
     struct Route
@@ -46,16 +53,17 @@ private:
         std::vector<std::string> segments;
         Access access;
         Handler handler;
+        FileHandler fileHandler; // in place of the other
     };
     struct Match
     {
         const Route *route = nullptr; // none when no route has the method
         std::vector<Verb> methods; // of the path; empty = there is no such path
-        std::string pad;
+        std::string parameter; // value of the segment that takes any
     };
 
     Match match(Verb method, const std::vector<std::string> &segments, bool mayTest) const;
-    HttpResponse answer(const HttpRequest &request, const Match &match) const;
+    HttpReply answer(const HttpRequest &request, const Match &match) const;
     SignIn signInOf(const HttpRequest &request) const;
 
     SignInStore &m_signIns;

@@ -8,6 +8,7 @@ namespace orvane::cloud {
 
 namespace {
 
+constexpr const char *releaseFolderName = "release";
 constexpr const char *databaseFileName = "orvane-cloud.sqlite";
 
 std::string databasePath(const std::string &folder)
@@ -31,6 +32,7 @@ ServiceData::ServiceData(const std::string &folder, Clocks serviceClocks)
     , groups(database, clocks)
     , sessions(database, clocks)
     , releases(database)
+    , releaseFiles(std::filesystem::path(folder) / releaseFolderName)
     , keyMaps(database)
 { }
 

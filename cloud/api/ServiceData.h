@@ -5,6 +5,7 @@
 #include "api/DeviceGroupStore.h"
 #include "api/DeviceStore.h"
 #include "api/KeyMapStore.h"
+#include "api/ReleaseFolder.h"
 #include "api/ReleaseStore.h"
 #include "api/SignInStore.h"
 #include "api/StreamSessionStore.h"
@@ -29,6 +30,7 @@ struct ServiceData
     DeviceGroupStore groups;
     StreamSessionStore sessions;
     ReleaseStore releases;
+    ReleaseFolder releaseFiles;
     KeyMapStore keyMaps;
 };
 

@@ -21,6 +21,7 @@ void TestAppPaths::underTheDataLocation()
     QCOMPARE(AppPaths::dataDir(), dataDir);
     QCOMPARE(AppPaths::logDir(), dataDir + "/log");
     QCOMPARE(AppPaths::dumpDir(), dataDir + "/dump");
+    QCOMPARE(AppPaths::pendingDir(), dataDir + "/pending");
     QCOMPARE(AppPaths::settingsFile(), dataDir + "/config/config.ini");
 }
 

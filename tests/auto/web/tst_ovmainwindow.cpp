@@ -185,7 +185,8 @@ void TestOvMainWindow::interfaceOrder()
         QStringLiteral("onMoveWindow(int,int)"), QStringLiteral("onCloseWindow()"),
         QStringLiteral("onMinimizeWindow()"), QStringLiteral("onMaximizeWindow()"),
         QStringLiteral("onRestoreWindow()"), QStringLiteral("onLogout()"),
-        QStringLiteral("onSetLanguage(QString)"), QStringLiteral("onInstallNewVersionApp(QString,bool)"),
+        QStringLiteral("onSetLanguage(QString)"), QStringLiteral("onUpdateNewVersion(QString,QJsonArray)"),
+        QStringLiteral("onInstallNewVersionApp(QString,bool)"),
         QStringLiteral("onMaximumShortcutActivated()"), QStringLiteral("checkH5Version()")};
     QStringList actual;
     const QMetaObject &meta = OvMainWindow::staticMetaObject;

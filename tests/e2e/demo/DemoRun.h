@@ -2,6 +2,7 @@
 
 #include "Client.h"
 #include "Service.h"
+#include "UpdateFixture.h"
 
 #include <QImage>
 #include <QRect>
@@ -34,9 +35,15 @@ private:
     void openWebDevice();
     void capturePage();
     void closeWebDevice();
+    void offerUpdate();
+    void downloadUpdate();
+    void deferUpdate();
+    void updateAtExit();
     void checkLog();
     void waitForNoSession();
 
+    // What the installer of the demo leaves when it runs.
+    QString installerMark() const;
     static void clickInMainWindow(const QPoint &position);
     // Taps an app's icon on the launcher and waits until the app is in front.
     void launch(const QString &app);
@@ -55,6 +62,7 @@ private:
     QString m_outputDir;
     e2e::Service m_service;
     e2e::Client m_client;
+    e2e::ReleaseFiles m_release;
     QString m_deviceName;
     QString m_pad;
     int m_step = 0;
