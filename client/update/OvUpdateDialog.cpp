@@ -80,6 +80,13 @@ QString inUrl(const QString &fileName)
     return QString::fromLatin1(QUrl::toPercentEncoding(fileName, "!$&'()*+,;=:@"));
 }
 
+// How many bytes a reply's body has; -1 while that is not known, or if they come encoded in others.
+qint64 lengthOf(const QNetworkReply *reply)
+{
+    const QVariant length = reply->header(QNetworkRequest::ContentLengthHeader);
+    return length.isValid() && !reply->hasRawHeader("Content-Encoding") ? length.toLongLong() : -1;
+}
+
 } // namespace
 
 OvUpdateDialog::OvUpdateDialog(QWidget *parent)
@@ -290,6 +297,7 @@ void OvUpdateDialog::endPackage()
 void OvUpdateDialog::watch(QNetworkReply *reply)
 {
     m_reply = reply;
+    m_receivedBytes = 0;
     qInfo().noquote() << "update: getting" << reply->url().toString();
     m_stallTimer->start();
     connect(reply, &QNetworkReply::readyRead, m_stallTimer, qOverload<>(&QTimer::start));
@@ -314,7 +322,7 @@ void OvUpdateDialog::onLatestInfoReadyRead()
     if (!m_reply)
         return;
     QFile file(m_pendingDir + QLatin1String(Contract::latestInfoName));
-    const QByteArray bytes = m_reply->readAll();
+    const QByteArray bytes = takeBytes();
     if (!refusalOf(m_reply).isEmpty())
         return; // an explanation
     if (file.size() + bytes.size() > maxLatestInfoBytes) {
@@ -329,9 +337,9 @@ void OvUpdateDialog::onLatestInfoReadyRead()
 
 void OvUpdateDialog::onLatestInfoComplete()
 {
-    const QString refusal = refusalOf(m_reply);
-    if (!refusal.isEmpty())
-        return fail("download latest.yml failed!", refusal);
+    const QString defect = defectOfWholeReply();
+    if (!defect.isEmpty())
+        return fail("download latest.yml failed!", defect);
     const ReleaseInfo info = ReleaseInfo::fromFile(m_pendingDir + QLatin1String(Contract::latestInfoName));
     qInfo().noquote() << "update: the newest version is" << info.version;
     m_package->check(info.sha512);
@@ -342,14 +350,19 @@ void OvUpdateDialog::requestPackage()
     QNetworkReply *reply = httpHelper()->get(
         m_updatePath + QLatin1Char('/') + inUrl(m_fileName),
         [this](const ResponseData &) {
-            const QString refusal = refusalOf(m_reply);
-            if (refusal.isEmpty())
+            const QString defect = defectOfWholeReply();
+            if (defect.isEmpty())
                 m_package->complete();
             else
-                fail("download package failed!", refusal);
+                fail("download package failed!", defect);
         },
         [this](const QString &error) { fail("download package failed!", error); });
-    reply->setReadBufferSize(readBufferBytes);
+    // The network layer must not gather what cannot be written as fast. With a limit it may take the end of
+    // the connection for the end of the file, so there is one only where the length tells the difference.
+    connect(reply, &QNetworkReply::metaDataChanged, this, [reply] {
+        if (lengthOf(reply) >= 0)
+            reply->setReadBufferSize(readBufferBytes);
+    });
     watch(reply);
     connect(reply, &QNetworkReply::downloadProgress, this, &OvUpdateDialog::onDownloadProgressChanged);
     connect(reply, &QNetworkReply::readyRead, this, &OvUpdateDialog::onPackagetReadyRead);
@@ -359,9 +372,26 @@ void OvUpdateDialog::onPackagetReadyRead()
 {
     if (!m_reply)
         return;
-    const QByteArray bytes = m_reply->readAll();
+    const QByteArray bytes = takeBytes();
     if (refusalOf(m_reply).isEmpty()) // else an explanation
         m_package->append(bytes);
+}
+
+QByteArray OvUpdateDialog::takeBytes()
+{
+    QByteArray bytes = m_reply->readAll();
+    m_receivedBytes += bytes.size();
+    return bytes;
+}
+
+// Why a reply that has ended without a transport error is not the whole of a file, or empty.
+QString OvUpdateDialog::defectOfWholeReply() const
+{
+    const QString refusal = refusalOf(m_reply);
+    const qint64 length = m_reply ? lengthOf(m_reply) : -1;
+    if (!refusal.isEmpty() || length < 0 || length == m_receivedBytes)
+        return refusal;
+    return QStringLiteral("the connection was closed after %1 of %2 bytes").arg(m_receivedBytes).arg(length);
 }
 
 // A redirection, which is not followed, and other answers without a file are no errors to the network layer.

@@ -75,7 +75,9 @@ private:
     void requestPackage();
     void watch(QNetworkReply *reply);
     void fail(const char *what, const QString &error);
-    // Why a reply without a transport error is none of a file, or empty.
+    QByteArray takeBytes();
+    QString defectOfWholeReply() const;
+    // Why a reply brings no file, or empty.
     static QString refusalOf(const QNetworkReply *reply);
 
     State m_state = State::Idle;
@@ -85,6 +87,7 @@ private:
     QString m_filePath;
     HttpHelper *m_httpHelper = nullptr; // child, made on first use
     QPointer<QNetworkReply> m_reply; // of what is being downloaded; owned by the helper
+    qint64 m_receivedBytes = 0; // of m_reply
     QTimer *m_stallTimer; // child
     QThread m_fileThread;
     PendingPackage *m_package = nullptr; // lives on m_fileThread

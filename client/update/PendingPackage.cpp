@@ -13,6 +13,7 @@ namespace Contract {
 const char partPrefix[] = "/temp_";
 const char partSuffix[] = ".part";
 const char installers[] = "*.exe";
+const char parts[] = "temp_*.part";
 } // namespace Contract
 
 constexpr qint64 maxUnwrittenBytes = 4'194'304;
@@ -61,18 +62,19 @@ void PendingPackage::checkFile()
     emit sigChecked(false);
 }
 
-// The bytes of a new download are appended, so nothing of an old one may be left.
+// The bytes of a new download are appended, so nothing of an old one may be left; that of another version
+// would stay for ever.
 void PendingPackage::clear()
 {
     QDir folder(m_pendingDir);
-    const QStringList installers
-        = folder.entryList({QLatin1String(Contract::installers)}, QDir::Files | QDir::Hidden);
-    for (const QString &name : installers) {
+    const QStringList names = folder.entryList(
+        {QLatin1String(Contract::installers), QLatin1String(Contract::parts)}, QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
         if (!folder.remove(name))
-            qWarning().noquote() << "an installer could not be deleted:" << folder.filePath(name);
+            qWarning().noquote() << "could not be deleted:" << folder.filePath(name);
     }
-    if (m_part.exists() && !m_part.remove())
-        qWarning().noquote() << "could not be deleted:" << m_part.fileName() << "-->" << m_part.errorString();
+    if (m_part.exists())
+        qWarning().noquote() << "in the way of the download:" << m_part.fileName();
 }
 
 void PendingPackage::append(const QByteArray &bytes)

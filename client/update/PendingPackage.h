@@ -29,7 +29,7 @@ public:
     // ---- GUI thread
 
     // Is the installer there, with this digest? Answers with sigChecked. If not, every installer in the
-    // folder and what a broken-off download has left are gone by then.
+    // folder and what broken-off downloads have left are gone by then.
     void check(const QString &sha512);
     // Takes the next bytes. Waits while too many have not been written yet, as the disk may be slower than
     // the network.

@@ -41,6 +41,7 @@ private slots:
     void renameThatFails();
     void leftoversOfAnEarlierRun();
     void breakingOffAndStartingAgain();
+    void brokenOffIsNeverTakenForWhole();
     void stallingHalfWay();
     void descriptionThatIsMissing();
     void descriptionThatIsMalformed();
@@ -163,6 +164,7 @@ void TestUpdate::otherInstallersAreDeletedWithOneThatDiffers()
         e2e::writeFile(pending(installer), other);
         e2e::writeFile(pending(QStringLiteral("Orvane_Setup_1.2.0.exe")), "old");
         e2e::writeFile(pending(QStringLiteral("something.exe")), "else");
+        e2e::writeFile(pending(QStringLiteral("temp_Orvane_Setup_1.2.0.exe.part")), "broken off");
         e2e::writeFile(pending(QStringLiteral("notes.txt")), "stays");
         ReleaseFiles::setFaults(*m_service,
             {{QStringLiteral("file"), installer}, {QStringLiteral("stall_after"), 1000},
@@ -322,6 +324,28 @@ void TestUpdate::breakingOffAndStartingAgain()
         waitForReady();
         QCOMPARE(e2e::readFile(pending(installer)), m_bytes);
         QVERIFY(!QFile::exists(part()));
+    });
+}
+
+// The network layer sometimes takes the end of the connection for the end of the file.
+void TestUpdate::brokenOffIsNeverTakenForWhole()
+{
+    e2e::steps([&] {
+        m_release->add(installer, m_bytes + m_bytes + m_bytes + m_bytes + m_bytes);
+        m_release->publish(*m_service);
+        const QString failed = QStringLiteral("download package failed!\nresponse data -->");
+        const QJsonObject info = ReleaseFiles::updateInfo(*m_service);
+        for (int bytes = 0; bytes < 5'000'000; bytes += 480'007) {
+            ReleaseFiles::setFaults(*m_service,
+                {{QStringLiteral("file"), installer}, {QStringLiteral("break_off_after"), bytes}});
+            m_log.reset();
+            m_log = std::make_unique<LogCapture>();
+            start(info.value(QLatin1String("update_path")).toString(),
+                info.value(QLatin1String("file_info")).toArray());
+            waitForLine(failed);
+            QVERIFY(!isReady());
+            QVERIFY(!QFile::exists(pending(installer)));
+        }
     });
 }
 

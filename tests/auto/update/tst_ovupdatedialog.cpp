@@ -303,7 +303,7 @@ void TestOvUpdateDialog::partThatCannotBeWritten()
     answer("/latest.yml", "sha512: x\nversion: 1");
     answer("/Orvane_Setup_1.exe", QByteArray(5'000'000, 'x'));
     QVERIFY(QDir().mkpath(m_pending + QStringLiteral("/temp_Orvane_Setup_1.exe.part/full")));
-    expectLine("^could not be deleted: .*temp_Orvane_Setup_1.exe.part");
+    expectLine("^in the way of the download: .*temp_Orvane_Setup_1.exe.part");
     expectLine("^the download could not be written: .*temp_Orvane_Setup_1.exe.part -->");
     expectLine("^download package failed!\nresponse data -->");
     start(QStringLiteral("Orvane_Setup_1.exe"));
