@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar_SA" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>لم يُحفظ تخطيط المفاتيح الحالي بعد. هل تريد حفظه؟</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>لا يوجد تخطيط مفاتيح محفوظ بعد</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>الشرح التعليمي</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>رفع مخطط</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>خروج</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>رفع الصوت</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>خفض الصوت</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>إعادة التشغيل</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>الرئيسية</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>القائمة</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>ستنتهي صلاحية الجهاز الرئيسي %1 خلال %2 د، مما سيؤثر في التحكم الجماعي. هل تريد التجديد؟</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>ستنتهي صلاحية الجهاز المتحكَّم به %1 خلال %2 د، مما سيؤثر في التحكم الجماعي. هل تريد التجديد؟</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>انتهت صلاحية الجهاز الرئيسي وتم استرداده. هل تريد تعيين جهاز رئيسي جديد والبدء من جديد؟</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>تمت إزالة الجهاز المنتهي (%1)</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>النص أطول من أن يُلصق.</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>حفظ المجموعة</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>تأكيد</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>التحديث</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>جارٍ تنزيل الإصدار الجديد، يُرجى الانتظار...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>الإصدار الجديد جاهز. هل تريد تثبيته الآن؟</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>التثبيت الآن</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>التثبيت تلقائيًا عند إغلاق التطبيق</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>تأكيد</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>هل تريد بالتأكيد إزالة الجهاز من المجموعة؟</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>تغيير الاسم</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>اسم المجموعة</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>أدخل اسم المجموعة</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>هذه مجموعة مؤقتة. هل تريد حفظها؟</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>يجب أن يكون طول الاسم من 1 إلى 50 حرفًا</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(بعد الخروج من الجهاز تستمر التطبيقات عليه في العمل)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>يتطلب التحكم الجماعي جهازين على الأقل</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>الإجمالي %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/صفحة</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>الصفحة السابقة</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>الصفحة التالية</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>الوقت المتبقي</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>تعيين كجهاز رئيسي</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>إعادة التشغيل</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>إزالة</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>تحكم فردي</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 ي %2 س %3 د %4 ث</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id_ID" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>Tata letak tombol saat ini belum disimpan. Ingin menyimpannya?</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>Belum ada tata letak tombol yang disimpan</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>Unggah skema</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>Keluar</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>Volume +</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Volume -</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Mulai ulang</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Kembali</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Beranda</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>Perangkat utama %1 akan kedaluwarsa dalam %2 menit dan memengaruhi kontrol grup. Ingin memperpanjang?</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>Perangkat terkontrol %1 akan kedaluwarsa dalam %2 menit dan memengaruhi kontrol grup. Ingin memperpanjang?</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>Perangkat utama telah kedaluwarsa dan ditarik. Tetapkan perangkat utama baru dan mulai lagi?</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>Perangkat kedaluwarsa (%1) dikeluarkan</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>Teks terlalu panjang untuk ditempel.</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>Simpan grup</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Batal</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Konfirmasi</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>Menghubungkan</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>Pembaruan</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>Mengunduh versi baru, harap tunggu...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>Versi baru sudah siap. Pasang sekarang?</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>Pasang sekarang</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>Pasang otomatis saat aplikasi ditutup</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Konfirmasi</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>Yakin ingin mengeluarkan perangkat dari grup?</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>Ganti nama</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>Nama grup</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>Masukkan nama grup</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>Ini grup sementara. Ingin menyimpan grup ini?</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>Nama harus terdiri dari 1 hingga 50 karakter</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(Setelah keluar dari perangkat, aplikasi di dalamnya tetap berjalan)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>Kontrol grup memerlukan minimal 2 perangkat</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>Total: %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/hlm.</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Halaman sebelumnya</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Halaman berikutnya</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>Menghubungkan</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>Sisa waktu</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>Jadikan utama</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>Mulai ulang</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>Keluarkan</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>Kontrol tunggal</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 hr %2 j %3 mnt %4 dtk</translation>
     </message>
 </context>
 <context>

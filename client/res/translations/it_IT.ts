@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it_IT" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>La disposizione tasti attuale non è ancora stata salvata. Vuoi salvarla?</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>Nessuna disposizione tasti ancora salvata</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>Carica schema</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>Esci</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>Volume +</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Volume -</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>Il dispositivo master %1 scade tra %2 min e il controllo di gruppo ne risentirà. Vuoi rinnovarlo?</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>Il dispositivo controllato %1 scade tra %2 min e il controllo di gruppo ne risentirà. Vuoi rinnovarlo?</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>Il dispositivo master è scaduto ed è stato ritirato. Vuoi assegnare un nuovo master e ricominciare?</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>Dispositivo scaduto (%1) rimosso</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>Il testo è troppo lungo per essere incollato.</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>Salva</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Conferma</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>Connessione</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>Download della nuova versione in corso, attendi...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>La nuova versione è pronta. Installarla ora?</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>Installa ora</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>Installa automaticamente alla chiusura dell’app</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Conferma</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>Vuoi davvero rimuovere il dispositivo dal gruppo?</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>Cambia nome</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>Nome del gruppo</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>Inserisci il nome del gruppo</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>Questo è un gruppo temporaneo. Vuoi salvarlo?</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>Il nome deve avere da 1 a 50 caratteri</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(Dopo l’uscita dal dispositivo, le app restano in esecuzione)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>Il controllo di gruppo richiede almeno 2 dispositivi</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>Totale: %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/pagina</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Pagina successiva</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>Tempo rimanente</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>Rendi master</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>Controllo singolo</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 g %2 h %3 min %4 s</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_PT" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>A disposição de teclas atual ainda não foi guardada. Pretende guardá-la?</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>Ainda não há disposições de teclas guardadas</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Tutorial</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>Carregar esquema</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>Sair</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>Volume +</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Volume -</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>O dispositivo principal %1 expira dentro de %2 min, o que afetará o controlo de grupo. Pretende renová-lo?</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>O dispositivo controlado %1 expira dentro de %2 min, o que afetará o controlo de grupo. Pretende renová-lo?</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>O dispositivo principal expirou e foi recolhido. Pretende atribuir um novo principal e recomeçar?</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>Dispositivo expirado (%1) removido</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>O texto é demasiado longo para colar.</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>Guardar</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>A ligar</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>Atualização</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>A transferir a nova versão, aguarde...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>A nova versão está pronta. Instalar agora?</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>Instalar agora</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>Instalar automaticamente ao fechar a aplicação</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Confirmar</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>Tem a certeza de que pretende remover o dispositivo do grupo?</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>Mudar o nome</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>Nome do grupo</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>Introduza o nome do grupo</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>Este é um grupo temporário. Pretende guardá-lo?</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>O nome deve ter entre 1 e 50 caracteres</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(Depois de sair do dispositivo, as suas aplicações continuam em execução)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>O controlo de grupo requer pelo menos 2 dispositivos</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>Total: %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/página</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Página seguinte</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>A ligar</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>Tempo restante</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>Tornar principal</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>Reiniciar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>Controlo individual</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 d %2 h %3 min %4 s</translation>
     </message>
 </context>
 <context>

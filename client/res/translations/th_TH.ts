@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="th_TH" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>ยังไม่ได้บันทึกผังปุ่มปัจจุบัน ต้องการบันทึกหรือไม่</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>ยังไม่มีผังปุ่มที่บันทึกไว้</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>บทช่วยสอน</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>อัปโหลดชุดปุ่ม</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>ออก</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>เพิ่มเสียง</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>ลดเสียง</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>รีสตาร์ท</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>ย้อนกลับ</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>หน้าหลัก</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>เมนู</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>อุปกรณ์หลัก %1 จะหมดอายุในอีก %2 นาที ซึ่งจะกระทบต่อการควบคุมกลุ่ม ต้องการต่ออายุหรือไม่</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>อุปกรณ์ที่ถูกควบคุม %1 จะหมดอายุในอีก %2 นาที ซึ่งจะกระทบต่อการควบคุมกลุ่ม ต้องการต่ออายุหรือไม่</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>อุปกรณ์หลักหมดอายุและถูกเรียกคืนแล้ว ต้องการกำหนดอุปกรณ์หลักใหม่และเริ่มอีกครั้งหรือไม่</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>นำอุปกรณ์ที่หมดอายุ (%1) ออกแล้ว</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>ข้อความยาวเกินกว่าจะวางได้</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>บันทึกกลุ่ม</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>ยกเลิก</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>ยืนยัน</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>กำลังเชื่อมต่อ</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>อัปเดต</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>กำลังดาวน์โหลดเวอร์ชันใหม่ โปรดรอสักครู่...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>เวอร์ชันใหม่พร้อมแล้ว ติดตั้งเลยหรือไม่</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>ติดตั้งเลย</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>ติดตั้งอัตโนมัติเมื่อปิดแอป</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>ยืนยัน</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>ต้องการนำอุปกรณ์ออกจากกลุ่มใช่หรือไม่</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>เปลี่ยนชื่อ</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>ชื่อกลุ่ม</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>ป้อนชื่อกลุ่ม</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>นี่คือกลุ่มชั่วคราว ต้องการบันทึกกลุ่มนี้หรือไม่</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>ชื่อต้องมีความยาว 1 ถึง 50 อักขระ</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(หลังจากออกจากอุปกรณ์ แอปในอุปกรณ์จะยังทำงานต่อไป)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>การควบคุมกลุ่มต้องมีอย่างน้อย 2 อุปกรณ์</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>ทั้งหมด %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/หน้า</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>หน้าก่อนหน้า</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>หน้าถัดไป</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>กำลังเชื่อมต่อ</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>เวลาที่เหลือ</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>ตั้งเป็นอุปกรณ์หลัก</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>รีสตาร์ท</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>นำออก</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>ควบคุมเครื่องเดียว</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 วัน %2 ชม. %3 นาที %4 วิ</translation>
     </message>
 </context>
 <context>

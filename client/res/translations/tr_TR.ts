@@ -2,6 +2,101 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr_TR" sourcelanguage="en">
 <context>
+    <name>DeviceKeyMapping</name>
+    <message>
+        <source>The current layout is not saved yet. Do you want to save the current keyboard layout</source>
+        <translation>Geçerli tuş düzeni henüz kaydedilmedi. Kaydetmek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>There is no saved key layout yet</source>
+        <translation>Henüz kayıtlı tuş düzeni yok</translation>
+    </message>
+</context>
+<context>
+    <name>EditingMenu</name>
+    <message>
+        <source>Tutorial</source>
+        <translation>Eğitim</translation>
+    </message>
+    <message>
+        <source>Upload scheme</source>
+        <translation>Şema yükle</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <extracomment>Leaves the editor of the key mapping.</extracomment>
+        <translation>Çık</translation>
+    </message>
+</context>
+<context>
+    <name>FunctionBar</name>
+    <message>
+        <source>Volume up</source>
+        <translation>Ses +</translation>
+    </message>
+    <message>
+        <source>Volume down</source>
+        <translation>Ses -</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Yeniden başlat</translation>
+    </message>
+    <message>
+        <source>Go back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Home page</source>
+        <translation>Ana ekran</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+</context>
+<context>
+    <name>GroupController</name>
+    <message>
+        <source>The main control device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>%1 adlı ana cihazın süresi %2 dakika içinde dolacak ve bu, grup kontrolünü etkileyecek. Yenilemek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>The controlled device %1 will expire in %2 minutes, which will affect group control operations. Do you want to renew?</source>
+        <extracomment>%1: name of the device, %2: number of minutes.</extracomment>
+        <translation>%1 adlı kontrol edilen cihazın süresi %2 dakika içinde dolacak ve bu, grup kontrolünü etkileyecek. Yenilemek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>The master has expired for recycling, shall I reassign the master for you and start again?</source>
+        <translation>Ana cihazın süresi doldu ve cihaz geri alındı. Yeni bir ana cihaz atanıp yeniden başlansın mı?</translation>
+    </message>
+    <message>
+        <source>Expired device (%1) removed</source>
+        <extracomment>%1: name of the device.</extracomment>
+        <translation>Süresi dolan cihaz (%1) çıkarıldı</translation>
+    </message>
+    <message>
+        <source>The text is too long to paste.</source>
+        <translation>Metin yapıştırmak için çok uzun.</translation>
+    </message>
+    <message>
+        <source>Save group</source>
+        <translation>Kaydet</translation>
+    </message>
+</context>
+<context>
+    <name>GroupDialogBox</name>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Onayla</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>
@@ -125,6 +220,14 @@
     </message>
 </context>
 <context>
+    <name>MainController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of the master device of a group whose picture is on its way.</extracomment>
+        <translation>Bağlanıyor</translation>
+    </message>
+</context>
+<context>
     <name>MenuBar</name>
     <message>
         <source>Home page</source>
@@ -189,6 +292,34 @@
     </message>
 </context>
 <context>
+    <name>OvUpdateDialog</name>
+    <message>
+        <source>Update</source>
+        <extracomment>Title of the window that downloads a new version of the program.</extracomment>
+        <translation>Güncelleme</translation>
+    </message>
+    <message>
+        <source>Downloading the new version, please wait...</source>
+        <translation>Yeni sürüm indiriliyor, lütfen bekleyin...</translation>
+    </message>
+    <message>
+        <source>The new version is ready, install now?</source>
+        <translation>Yeni sürüm hazır. Şimdi kurulsun mu?</translation>
+    </message>
+    <message>
+        <source>Install now</source>
+        <translation>Şimdi kur</translation>
+    </message>
+    <message>
+        <source>Installation is automatic when closing the app</source>
+        <translation>Uygulama kapatılınca otomatik kur</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Onayla</translation>
+    </message>
+</context>
+<context>
     <name>QualityBox</name>
     <message>
         <source>Auto</source>
@@ -213,6 +344,36 @@
     <message>
         <source>240P</source>
         <translation>240P</translation>
+    </message>
+</context>
+<context>
+    <name>RemoveDeviceDialog</name>
+    <message>
+        <source>Are you sure to remove the device from the group?</source>
+        <translation>Cihazı gruptan çıkarmak istediğinize emin misiniz?</translation>
+    </message>
+</context>
+<context>
+    <name>SaveGroupDialog</name>
+    <message>
+        <source>Change the name</source>
+        <translation>Adı değiştir</translation>
+    </message>
+    <message>
+        <source>Group name</source>
+        <translation>Grup adı</translation>
+    </message>
+    <message>
+        <source>Please enter group name</source>
+        <translation>Grup adını girin</translation>
+    </message>
+    <message>
+        <source>This is a temporary group. Do you want to save this group?</source>
+        <translation>Bu geçici bir grup. Kaydetmek ister misiniz?</translation>
+    </message>
+    <message>
+        <source>The name length should be greater than one character and less than 50 characters</source>
+        <translation>Ad 1 ile 50 karakter arasında olmalıdır</translation>
     </message>
 </context>
 <context>
@@ -292,6 +453,75 @@
     <message>
         <source>(After exiting the device, the application within the device will continue to run)</source>
         <translation>(Cihazdan çıktıktan sonra cihazdaki uygulamalar çalışmaya devam eder)</translation>
+    </message>
+</context>
+<context>
+    <name>SubControlPage</name>
+    <message>
+        <source>Group control need to be more than 2 devices</source>
+        <translation>Grup kontrolü için en az 2 cihaz gerekir</translation>
+    </message>
+    <message>
+        <source>Total %1</source>
+        <extracomment>How many devices a group has.</extracomment>
+        <translation>Toplam %1</translation>
+    </message>
+    <message>
+        <source>50/page</source>
+        <extracomment>How many devices of a group a page shows.</extracomment>
+        <translation>50/sayfa</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Sonraki sayfa</translation>
+    </message>
+</context>
+<context>
+    <name>SubController</name>
+    <message>
+        <source>Connecting</source>
+        <extracomment>State of a device of a group whose picture is on its way.</extracomment>
+        <translation>Bağlanıyor</translation>
+    </message>
+    <message>
+        <source>Remaining time</source>
+        <extracomment>Followed by a colon and the time after which a device is given back.</extracomment>
+        <translation>Kalan süre</translation>
+    </message>
+</context>
+<context>
+    <name>TileMenu</name>
+    <message>
+        <source>Set as master</source>
+        <extracomment>Entry of the menu over a device of a group: it becomes the device whose input the others follow.</extracomment>
+        <translation>Ana cihaz yap</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <extracomment>Entry of the menu over a device of a group.</extracomment>
+        <translation>Yeniden başlat</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <extracomment>Entry of the menu over a device of a group: it leaves the group.</extracomment>
+        <translation>Çıkar</translation>
+    </message>
+    <message>
+        <source>Single control</source>
+        <extracomment>Entry of the menu over a device of a group: it opens in a window of its own.</extracomment>
+        <translation>Tekli kontrol</translation>
+    </message>
+</context>
+<context>
+    <name>TileText</name>
+    <message>
+        <source>%1d %2h %3min %4s</source>
+        <extracomment>Time left: days, hours, minutes, seconds.</extracomment>
+        <translation>%1 g %2 sa %3 dk %4 sn</translation>
     </message>
 </context>
 <context>
