@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QJsonArray>
+#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <limits>
@@ -33,4 +34,11 @@ stream::StreamingData streamingDataOf(const QJsonValue &data, const QString &ser
     streaming.controlIp = address[QStringLiteral("controlIp")].toString();
     streaming.sessionId = result[QStringLiteral("sessionId")].toString();
     return streaming;
+}
+
+QString applyLogText(const QJsonValue &data)
+{
+    const QJsonDocument document = QJsonDocument::fromVariant(data.toVariant());
+    return document.isNull() ? data.toVariant().toString()
+                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }

@@ -8,14 +8,21 @@ namespace {
 
 constexpr QSize PortraitContent(390, 640);
 constexpr QSize LandscapeContent(650, 380);
-constexpr QSize SmallestPortraitContent(345, 560);
-constexpr QSize SmallestLandscapeContent(570, 335);
+constexpr QSize PortraitEditingContent(640, 640); // the panel's height is 600
+constexpr QSize LandscapeEditingContent(900, 380); // 340
+constexpr QSize SmallestPortraitContent(365, 599);
+constexpr QSize SmallestLandscapeContent(609, 355); // below the title bar, the seven buttons of the menu bar
 
 } // namespace
 
 QSize contentSize(ScreenOrientation orientation)
 {
     return orientation == ScreenOrientation::Portrait ? PortraitContent : LandscapeContent;
+}
+
+QSize editingContentSize(ScreenOrientation orientation)
+{
+    return orientation == ScreenOrientation::Portrait ? PortraitEditingContent : LandscapeEditingContent;
 }
 
 QSize smallestContentSize(ScreenOrientation orientation)

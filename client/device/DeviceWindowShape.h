@@ -7,7 +7,8 @@
 #include <QSize>
 
 // The geometry of a device window: its content is the title bar above and, below it, the video with the menu
-// bar at its right. Pure functions, in device-independent pixels; any thread.
+// bar at its right, or with the editor of the key mapping in its place. Pure functions, in device-independent
+// pixels; any thread.
 namespace DeviceWindowShape {
 
 constexpr int titleBarHeight = 40;
@@ -16,6 +17,9 @@ constexpr int maximizedLandscapeWidth = 1300;
 
 // The content of a new window.
 QSize contentSize(ScreenOrientation orientation);
+// The content while the key mapping is edited. The video has the size that it has in a new window, which is
+// the one that the places of a scheme's keys are for.
+QSize editingContentSize(ScreenOrientation orientation);
 // The smallest content in which the bars and the stand-by page have room.
 QSize smallestContentSize(ScreenOrientation orientation);
 

@@ -43,14 +43,14 @@ MenuBar::MenuBar(QWidget *parent)
     addKeyButton(":/icon/svg/volumeDown.svg", KeyType::VolumeDown);
     MenuButton *capture = addButton(":/icon/svg/snapshot.svg");
     MenuButton *rotate = addButton(":icon/svg/switchScreen.svg");
-    m_keyEditingButton = addButton(":icon/svg/key.svg");
-    m_applyBindingButton = addButton(":icon/svg/useLastConfig.svg");
+    MenuButton *editKeys = addButton(":icon/svg/key.svg");
+    MenuButton *applyBinding = addButton(":icon/svg/useLastConfig.svg");
     layout->addStretch();
 
     connect(capture, &QPushButton::clicked, this, &MenuBar::screenCaptureBtnClicked);
     connect(rotate, &QPushButton::clicked, this, &MenuBar::screenRotateBtnClicked);
-    connect(m_keyEditingButton, &QPushButton::clicked, this, &MenuBar::keyboardMapBtnClicked);
-    connect(m_applyBindingButton, &QPushButton::clicked, this, &MenuBar::applyKeyBindingBtnClicked);
+    connect(editKeys, &QPushButton::clicked, this, &MenuBar::keyboardMapBtnClicked);
+    connect(applyBinding, &QPushButton::clicked, this, &MenuBar::applyKeyBindingBtnClicked);
     setTexts();
 }
 
@@ -69,12 +69,6 @@ void MenuBar::addKeyButton(const char *iconPath, int keyType)
 {
     connect(addButton(iconPath), &QPushButton::clicked, this,
         [this, keyType] { emit functionBtnClicked(keyType); });
-}
-
-void MenuBar::setKeyMappingShown(bool shown)
-{
-    m_keyEditingButton->setVisible(shown);
-    m_applyBindingButton->setVisible(shown);
 }
 
 void MenuBar::setTexts()

@@ -22,8 +22,6 @@ public:
 
     // From top to bottom.
     const QVector<MenuButton *> &buttons() const { return m_buttons; }
-    // Whether the two buttons of the key mapping are shown; they are at first.
-    void setKeyMappingShown(bool shown);
 
 signals:
     // `keyType`: a Linux input key code, for the device.
@@ -43,6 +41,4 @@ private:
     void setTexts();
 
     QVector<MenuButton *> m_buttons; // children
-    MenuButton *m_keyEditingButton = nullptr; // two of them
-    MenuButton *m_applyBindingButton = nullptr;
 };

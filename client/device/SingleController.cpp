@@ -1,12 +1,16 @@
 #include "device/SingleController.h"
 
 #include "device/DeviceApplyAnswer.h"
+#include "device/DeviceKeyMapping.h"
+#include "device/DeviceTitle.h"
+#include "device/EditingMenu.h"
 #include "device/LoadingPage.h"
 #include "device/MenuBar.h"
 #include "device/QualityBox.h"
 #include "device/StandbyWidget.h"
+#include "keymap/KeyboardMapEditor.h"
+#include "keymap/KeyboardMapMgr.h"
 #include "net/HttpHelper.h"
-#include "stream/DeviceKey.h"
 #include "stream/StreamController.h"
 #include "stream/VideoView.h"
 #include "widgets/OvTitleBarBase.h"
@@ -16,13 +20,11 @@
 #include <QCloseEvent>
 #include <QDebug>
 #include <QDialog>
-#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QShortcut>
 #include <QStackedLayout>
 #include <QVBoxLayout>
@@ -33,13 +35,6 @@ constexpr int SuccessCode = 200;
 
 // Sizes in device-independent pixels and colours.
 namespace Look {
-constexpr int TitlePixels = 14;
-constexpr int TitleBarRest = 10 + 3 * 40; // of its width: the left margin and the caption buttons
-constexpr int TitleGap = 8; // after the title
-constexpr int DelayPixels = 12;
-constexpr int DelayWidth = 64; // holds "9999ms"
-constexpr int DelayMargin = 8;
-constexpr QRgb TitleColour = qRgb(255, 255, 255);
 constexpr QRgb Body = qRgb(68, 68, 68); // as the bars: it shows through where pixels are shared
 constexpr int ToastSeconds = 3;
 } // namespace Look
@@ -49,21 +44,6 @@ constexpr int OrientationToggle = 3; // landscape to portrait and back, by exclu
 // What the streaming SDK takes as one text, in bytes of UTF-8.
 constexpr int LongestPaste = 1024 * 1024;
 
-// Whether a key travels as a key and not as text: its text must be the character of its own code. The code is
-// taken as a signed byte, so that letters outside ASCII, which a device keyboard has no key for, are text.
-bool travelsAsKey(const QKeyEvent &event)
-{
-    const auto code = static_cast<signed char>(event.key() & 0xFF);
-    return event.text() == QString(QChar(static_cast<ushort>(code)));
-}
-
-QString logText(const QJsonValue &data)
-{
-    const QJsonDocument document = QJsonDocument::fromVariant(data.toVariant());
-    return document.isNull() ? data.toVariant().toString()
-                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
-}
-
 } // namespace
 
 SingleController::SingleController(const QString &serviceId, const QString &deviceName, QWidget *parent)
@@ -71,17 +51,24 @@ SingleController::SingleController(const QString &serviceId, const QString &devi
     , m_serviceId(serviceId)
     , m_deviceName(deviceName)
     , m_stream(std::make_shared<StreamController>())
+    , m_keyboard(m_stream)
     , m_standbyTimer(new StandbyTimer(this))
 {
     setBackgroundColor(QColor(Look::Body));
-    createTitle();
+    setWindowTitle(m_deviceName);
+    titleBar()->setButtonType(OvTitleBarBase::MinMaxCloseButtons);
+    m_title = new DeviceTitle(titleBar());
     showTitle();
     createPages();
     connectStream();
     connectMenuBar();
+    connectKeyMapping();
     connect(m_standbyTimer, &StandbyTimer::sigExpired, this, &SingleController::startStandby);
     connect(m_standbyPage, &StandbyWidget::sigResumeBtnClicked, this, &SingleController::onResumeBtnClicked);
     connect(m_standbyPage, &StandbyWidget::sigExitBtnClicked, this, &SingleController::onExitBtnClicked);
+
+    disconnect(titleBar(), &OvTitleBarBase::btnCloseClicked, this, &OvWindowBase::onBtnCloseClicked);
+    connect(titleBar(), &OvTitleBarBase::btnCloseClicked, this, &SingleController::closeByUser);
 
     auto *paste = new QShortcut(Qt::CTRL + Qt::Key_V, this);
     paste->setAutoRepeat(false);
@@ -93,32 +80,10 @@ SingleController::~SingleController()
     endStream();
 }
 
-void SingleController::createTitle()
-{
-    setWindowTitle(m_deviceName);
-    titleBar()->setButtonType(OvTitleBarBase::MinMaxCloseButtons);
-
-    m_qualityBox = new QualityBox(titleBar());
-    titleBar()->buttonLayout()->addWidget(m_qualityBox);
-    m_delayLabel = new QLabel(titleBar());
-    m_delayLabel->setObjectName(QStringLiteral("delayLabel"));
-    m_delayLabel->setContentsMargins(0, 0, Look::DelayMargin, 0);
-    m_delayLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_delayLabel->setMinimumWidth(Look::DelayWidth); // the bar keeps still while the figure changes
-    m_delayLabel->setStyleSheet(QStringLiteral("color: #C0C4CC; font-size: %1px;").arg(Look::DelayPixels));
-    titleBar()->buttonLayout()->addWidget(m_delayLabel);
-}
-
 // As much of the name as the bar has room for; the task bar has the whole.
 void SingleController::showTitle()
 {
-    QFont font;
-    font.setPixelSize(Look::TitlePixels);
-    const int barWidth = width() - (isMaximizedInProportion() ? 0 : 2 * shadowMargin());
-    const int room = barWidth - Look::TitleBarRest - Look::TitleGap - QualityBox::boxWidth
-        - m_delayLabel->minimumWidth();
-    titleBar()->setTitle(QFontMetrics(font).elidedText(m_deviceName, Qt::ElideRight, room), Look::TitlePixels,
-        false, QColor(Look::TitleColour));
+    m_title->showName(m_deviceName, width() - (isMaximizedInProportion() ? 0 : 2 * shadowMargin()));
 }
 
 // The pages go into a layout that is in place: one without a window shows its first page as a window of its
@@ -140,12 +105,13 @@ QWidget *SingleController::createVideoPage()
     m_videoView->setStreamController(m_stream);
     m_videoView->installEventFilter(this);
     m_menuBar = new MenuBar;
-    m_menuBar->setKeyMappingShown(false);
+    m_keyMapping = new DeviceKeyMapping(m_videoView, this);
     auto *layout = new QHBoxLayout(page);
     layout->setSpacing(0);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_videoView, 1);
     layout->addWidget(m_menuBar);
+    layout->addWidget(m_keyMapping->editor());
     m_standbyPage = new StandbyWidget(page);
     m_standbyPage->hide();
     return page;
@@ -159,10 +125,10 @@ void SingleController::connectStream()
     connect(m_videoView, &VideoView::touchEvent, this, &SingleController::onOperation);
     connect(m_videoView, &VideoView::inputEvent, this, &SingleController::onOperation);
     connect(m_videoView, &VideoView::screenRotation, this, &SingleController::onScreenRotation);
-    connect(m_qualityBox, qOverload<int>(&QComboBox::currentIndexChanged), stream,
+    connect(m_title->qualityBox(), qOverload<int>(&QComboBox::currentIndexChanged), stream,
         &StreamController::onVideoLevelChanged);
-    connect(
-        m_qualityBox, qOverload<int>(&QComboBox::currentIndexChanged), this, &SingleController::onOperation);
+    connect(m_title->qualityBox(), qOverload<int>(&QComboBox::currentIndexChanged), this,
+        &SingleController::onOperation);
     connect(stream, &StreamController::sigPlayInfo, this, &SingleController::onPlayInfo);
 }
 
@@ -187,9 +153,10 @@ bool SingleController::isStandingBy() const
     return !m_standbyPage->isHidden();
 }
 
+// While the key mapping is edited, the keyboard is for binding keys.
 bool SingleController::takesInput() const
 {
-    return showsVideo() && !isStandingBy();
+    return showsVideo() && !isStandingBy() && !m_keyMapping->isEditing();
 }
 
 // ---- Applying for the device
@@ -217,8 +184,9 @@ void SingleController::applyDevice()
 void SingleController::onDeviceApplied(const QJsonValue &data)
 {
     qDebug().noquote().nospace() << "single controller apply device success, response data ---> "
-                                 << logText(data);
+                                 << applyLogText(data);
     m_streamingData = streamingDataOf(data, m_serviceId);
+    liftEverything();
     m_stream->setVideoView(m_videoView);
     endStandby();
     showPortrait();
@@ -259,48 +227,39 @@ void SingleController::keyPressEvent(QKeyEvent *event)
         return;
     }
     onOperation();
-    if (travelsAsKey(*event)) {
-        const int code = deviceKeyCode(event->key());
-        m_heldKeys.press(event->nativeScanCode(), code);
-        m_stream->onKeyPressEvent(code);
-    } else {
-        m_stream->onInputEvent(event->text());
-    }
+    m_keyboard.press(*event);
 }
 
-// Also after a press that went as text: the device ignores keys that are not down.
 void SingleController::keyReleaseEvent(QKeyEvent *event)
 {
     if (!takesInput()) {
         TurnableWindow::keyReleaseEvent(event);
         return;
     }
-    const int code = deviceKeyCode(event->key());
-    m_stream->onKeyReleaseEvent(code);
-    const QVector<int> others = m_heldKeys.release(event->nativeScanCode(), code);
-    for (const int other : others)
-        m_stream->onKeyReleaseEvent(other);
+    m_keyboard.release(*event);
 }
 
-void SingleController::releaseHeldKeys()
+// What is held: fingers of the mouse and of the auxiliary keys, and keys.
+void SingleController::liftEverything()
 {
-    const QVector<int> codes = m_heldKeys.releaseAll();
-    for (const int code : codes)
-        m_stream->onKeyReleaseEvent(code);
+    m_videoView->liftFinger();
+    m_keyMapping->liftFingers();
+    m_keyboard.releaseAll();
 }
 
 void SingleController::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::ActivationChange && !isActiveWindow())
-        releaseHeldKeys(); // their releases go to another window
+        m_keyboard.releaseAll(); // their releases go to another window
     TurnableWindow::changeEvent(event);
 }
 
 bool SingleController::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_videoView) {
+        // A list that is open takes the keyboard without another window being active.
         if (event->type() == QEvent::FocusOut)
-            releaseHeldKeys(); // a list that is open takes the keyboard without another window being active
+            m_keyboard.releaseAll();
         else if (event->type() == QEvent::Resize && isStandingBy())
             layOutStandbyPage();
     }
@@ -333,13 +292,13 @@ void SingleController::onPlayInfo(const char *info)
 {
     const QJsonObject values = QJsonDocument::fromJson(info).object();
     const int delayMs = values.value(QStringLiteral("delayTime")).toInt(0);
-    m_delayLabel->setText(QStringLiteral("%1ms").arg(delayMs));
+    m_title->showDelay(delayMs);
 }
 
 void SingleController::applyQuality()
 {
-    if (m_qualityBox->currentIndex() > 0) // a session begins with the automatic level by itself
-        m_stream->onVideoLevelChanged(m_qualityBox->currentIndex());
+    if (m_title->qualityBox()->currentIndex() > 0) // a session begins with the automatic level by itself
+        m_stream->onVideoLevelChanged(m_title->qualityBox()->currentIndex());
 }
 
 // ---- Stand-by
@@ -353,20 +312,20 @@ void SingleController::setStandbyTime(int minutes)
 
 void SingleController::onOperation()
 {
-    if (takesInput())
+    if (showsVideo() && !isStandingBy())
         m_standbyTimer->restart();
 }
 
 // Nothing that is held reaches the device any more, so it comes up first.
 void SingleController::startStandby()
 {
-    if (!takesInput())
+    if (!showsVideo() || isStandingBy())
         return;
-    m_videoView->liftFinger();
-    releaseHeldKeys();
+    liftEverything();
     m_standbyTimer->stop();
     m_stream->setStreamMode(stream::Paused);
     m_menuBar->setEnabled(false);
+    m_keyMapping->editor()->setEnabled(false);
     m_videoView->setEnabled(false);
     layOutStandbyPage();
     m_standbyPage->show();
@@ -384,6 +343,7 @@ void SingleController::endStandby()
 {
     m_standbyPage->hide();
     m_menuBar->setEnabled(true);
+    m_keyMapping->editor()->setEnabled(true);
     m_videoView->setEnabled(true);
 }
 
@@ -400,7 +360,7 @@ void SingleController::onResumeBtnClicked()
 
 void SingleController::onExitBtnClicked()
 {
-    onBtnCloseClicked();
+    closeByUser();
 }
 
 // ---- Shape
@@ -416,6 +376,7 @@ void SingleController::onScreenRotation(ScreenOrientation orientation)
 {
     if (orientation == this->orientation())
         return;
+    m_keyMapping->followOrientation();
     turnTo(orientation);
     m_videoPage->layout()->update(); // the view may have turned itself within the same place
     if (isStandingBy())
@@ -440,14 +401,178 @@ void SingleController::resizeEvent(QResizeEvent *event)
     showTitle();
 }
 
+// ---- Key mapping
+// ----------------------------------------------------------------------------------------------
+
+void SingleController::connectKeyMapping()
+{
+    const EditingMenu *menu = m_title->editingMenu();
+    const KeyboardMapEditor *editor = m_keyMapping->editor();
+    using Window = SingleController;
+    using Editor = KeyboardMapEditor;
+    connect(m_menuBar, &MenuBar::keyboardMapBtnClicked, this, &Window::onKeyboardMapBtnClicked);
+    connect(m_menuBar, &MenuBar::applyKeyBindingBtnClicked, this, &Window::onApplyKeyBindingBtnClicked);
+    connect(menu, &EditingMenu::tutorialBtnClicked, this, &Window::onTutorialBtnClicked);
+    connect(menu, &EditingMenu::uploadBtnClicked, this, &Window::onUploadBtnClicked);
+    connect(menu, &EditingMenu::exitBtnClicked, this, &Window::onExitKeyBoardEditBtnClicked);
+    connect(editor, &Editor::sigSaveAndClose, this, &Window::onSaveAndCloseKeyboardEditor);
+    connect(editor, &Editor::sigAuxiliaryClickBtnClicked, this, &Window::onAuxiliaryClickBtnClicked);
+    connect(editor, &Editor::sigAuxiliaryCrosshairClicked, this, &Window::onAuxiliaryCrosshairClicked);
+    connect(editor, &Editor::sigAuxiliaryWalkingClicked, this, &Window::onAuxiliaryWalkingClicked);
+    connect(editor, &Editor::sigCreateAuxiliaryClickKey, this, &Window::onCreateAuxiliaryClickKey);
+    connect(editor, &Editor::sigCreateAuxiliaryCrosshairKey, this, &Window::onCreateAuxiliaryCrosshairKey);
+    connect(editor, &Editor::sigCreateAuxiliaryWalkingKey, this, &Window::onCreateAuxiliaryWalkingKey);
+    connect(m_keyMapping, &DeviceKeyMapping::sigShareConfirmed, this, &Window::onShareConfig);
+    connect(m_keyMapping, &DeviceKeyMapping::sigOperation, this, &Window::onOperation);
+    connect(m_keyMapping, &DeviceKeyMapping::sigSaveWanted, this, [this] { leaveEditor(true); });
+    connect(m_keyMapping, &DeviceKeyMapping::sigDiscardWanted, this, [this] { leaveEditor(false); });
+    connect(m_keyMapping, &DeviceKeyMapping::sigStayWanted, this, [this] { m_closesAfterEditing = false; });
+    connect(m_keyMapping->manager(), &KeyboardMapMgr::sigSaved, this, &Window::onSaved);
+}
+
+void SingleController::onKeyboardMapBtnClicked()
+{
+    if (!takesInput())
+        return;
+    m_keyboard.releaseAll();
+    showEditor(true);
+    onOperation();
+}
+
+// The keys end what they hold as the editing begins.
+void SingleController::showEditor(bool shown)
+{
+    if (shown)
+        m_keyMapping->beginEditing();
+    else
+        m_keyMapping->endEditing();
+    m_videoView->setAttribute(Qt::WA_InputMethodEnabled, !shown);
+    m_menuBar->setVisible(!shown);
+    m_title->setEditing(shown);
+    setEditingShape(shown);
+    showTitle();
+    if (isStandingBy())
+        layOutStandbyPage();
+    else
+        m_videoView->setFocus();
+}
+
+void SingleController::onSaveAndCloseKeyboardEditor()
+{
+    if (m_keyMapping->isEditing())
+        showEditor(false);
+}
+
+void SingleController::onExitKeyBoardEditBtnClicked()
+{
+    if (!m_keyMapping->isEditing())
+        return;
+    m_closesAfterEditing = false;
+    if (m_keyMapping->hasUnsavedEdits())
+        m_keyMapping->askToSave();
+    else
+        showEditor(false);
+}
+
+// Discarding needs the editor's shape, in which schemes are laid out.
+void SingleController::leaveEditor(bool save)
+{
+    if (save) {
+        m_keyMapping->save();
+        return;
+    }
+    m_keyMapping->discardChanges();
+    showEditor(false);
+    if (m_closesAfterEditing)
+        closeByUser();
+}
+
+// A window that is to be closed waits until its layout is stored, and stays when that fails.
+void SingleController::onSaved(bool isStored)
+{
+    if (m_closesAfterEditing && isStored)
+        closeByUser();
+    m_closesAfterEditing = false;
+}
+
+void SingleController::closeByUser()
+{
+    m_closesAfterEditing = m_keyMapping->hasUnsavedEdits();
+    if (m_closesAfterEditing)
+        m_keyMapping->askToSave();
+    else
+        onBtnCloseClicked();
+}
+
+void SingleController::onApplyKeyBindingBtnClicked()
+{
+    if (!takesInput())
+        return;
+    m_keyMapping->applyLocalCopy();
+    onOperation();
+}
+
+void SingleController::onTutorialBtnClicked()
+{
+    m_keyMapping->openGuide();
+}
+
+void SingleController::onUploadBtnClicked()
+{
+    m_keyMapping->openShareDialog(m_title->editingMenu()->uploadButton());
+}
+
+void SingleController::onShareConfig()
+{
+    m_keyMapping->importShared();
+}
+
+void SingleController::onAuxiliaryClickBtnClicked()
+{
+    m_keyMapping->addKey(keymap::ClickKey);
+}
+
+void SingleController::onAuxiliaryCrosshairClicked()
+{
+    m_keyMapping->addKey(keymap::CrosshairKey);
+}
+
+void SingleController::onAuxiliaryWalkingClicked()
+{
+    m_keyMapping->addKey(keymap::WalkingKey);
+}
+
+void SingleController::onCreateAuxiliaryClickKey()
+{
+    m_keyMapping->createKey(keymap::ClickKey);
+}
+
+void SingleController::onCreateAuxiliaryCrosshairKey()
+{
+    m_keyMapping->createKey(keymap::CrosshairKey);
+}
+
+void SingleController::onCreateAuxiliaryWalkingKey()
+{
+    m_keyMapping->createKey(keymap::WalkingKey);
+}
+
 // ---- End
 // ------------------------------------------------------------------------------------------------------
 
 // A close by the window manager means the same to the owner as the close button.
 void SingleController::closeEvent(QCloseEvent *event)
 {
+    if (event->spontaneous() && m_keyMapping->hasUnsavedEdits()) {
+        event->ignore();
+        closeByUser();
+        return;
+    }
     if (event->spontaneous())
         emit sigCloseBtnClicked();
+    m_keyMapping->abandon();
+    if (m_keyMapping->isEditing())
+        showEditor(false);
     endStream();
     closeQuestions();
     showPortrait();
@@ -471,11 +596,10 @@ void SingleController::endStream()
 {
     delete m_httpHelper; // its answer must not start a stream in a closed window
     m_httpHelper = nullptr;
-    m_videoView->liftFinger();
-    releaseHeldKeys();
+    liftEverything();
     m_stream->stopStream();
     endStandby();
     m_pages->setCurrentWidget(m_loadingPage);
     m_standbyTimer->stop();
-    m_delayLabel->clear();
+    m_title->clearDelay();
 }

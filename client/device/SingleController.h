@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/HeldKeys.h"
+#include "device/DeviceKeyboard.h"
 #include "device/StandbyTimer.h"
 #include "device/TurnableWindow.h"
 #include "stream/ScreenOrientation.h"
@@ -11,14 +11,14 @@
 
 #include <memory>
 
+class DeviceKeyMapping;
+class DeviceTitle;
 class HttpHelper;
 class LoadingPage;
 class MenuBar;
 class OvToast;
 class QJsonValue;
-class QLabel;
 class QStackedLayout;
-class QualityBox;
 class StandbyWidget;
 class StreamController;
 class VideoView;
@@ -28,6 +28,10 @@ class VideoView;
 // menu bar stands beside the video, the quality and the delay in the title bar. Without input for a while the
 // stream pauses and the stand-by page covers the video. Closing it ends the stream; giving the device back to
 // the service is its owner's business (OvWindowBase::sigCloseBtnClicked).
+//
+// While the key mapping is edited, its panel stands in the place of the menu bar, a menu in the title bar in
+// the place of quality and delay, and nothing reaches the device. The user cannot close the window without
+// being asked about a layout that is not saved.
 //
 // GUI thread; owned by whoever creates it.
 class SingleController : public TurnableWindow
@@ -69,6 +73,27 @@ public slots:
     void onPlayInfo(const char *info);
     // Maximises the window, or restores it.
     void onMaximizeShortcutActivated();
+    // Opens the editor of the key mapping.
+    void onKeyboardMapBtnClicked();
+    // Lays the keys of the local copy over the video.
+    void onApplyKeyBindingBtnClicked();
+    // Of the editor's menu: the tutorial, a scheme that somebody else has shared, and leaving, which asks
+    // first if there are unsaved changes.
+    void onTutorialBtnClicked();
+    void onUploadBtnClicked();
+    void onExitKeyBoardEditBtnClicked();
+    // The scheme has been given away to be saved: closes the editor.
+    void onSaveAndCloseKeyboardEditor();
+    // New keys for the user, unless one of the kind is pending.
+    void onAuxiliaryClickBtnClicked();
+    void onAuxiliaryCrosshairClicked();
+    void onAuxiliaryWalkingClicked();
+    // Keys of a scheme that is being applied.
+    void onCreateAuxiliaryClickKey();
+    void onCreateAuxiliaryCrosshairKey();
+    void onCreateAuxiliaryWalkingKey();
+    // A sharing code has been confirmed: imports its scheme.
+    void onShareConfig();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -81,11 +106,12 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void createTitle();
     void createPages();
     QWidget *createVideoPage();
     void connectStream();
     void connectMenuBar();
+    void connectKeyMapping();
+    void liftEverything();
     bool showsVideo() const;
     bool isStandingBy() const;
     bool takesInput() const;
@@ -93,11 +119,14 @@ private:
     void onApplyRefused(int code, const QString &message);
     void onApplyFailed(const QString &error);
     void showToast(const QString &text);
-    void releaseHeldKeys();
     void applyQuality();
     void startStandby();
     void endStandby();
     void layOutStandbyPage();
+    void showEditor(bool shown);
+    void leaveEditor(bool save);
+    void onSaved(bool isStored);
+    void closeByUser();
     void endStream();
     void closeQuestions();
     void showPortrait();
@@ -109,15 +138,16 @@ private:
     HttpHelper *m_httpHelper
         = nullptr; // child, made by the first request; its end drops the requests under way
     std::shared_ptr<StreamController> m_stream;
+    DeviceKeyboard m_keyboard;
     QStackedLayout *m_pages = nullptr;
     LoadingPage *m_loadingPage = nullptr; // children
     QWidget *m_videoPage = nullptr;
     VideoView *m_videoView = nullptr;
     MenuBar *m_menuBar = nullptr;
     StandbyWidget *m_standbyPage = nullptr; // over the video
-    QualityBox *m_qualityBox = nullptr;
-    QLabel *m_delayLabel = nullptr;
+    DeviceTitle *m_title = nullptr;
+    DeviceKeyMapping *m_keyMapping = nullptr;
     StandbyTimer *m_standbyTimer;
     QPointer<OvToast> m_toast; // child, while one is shown
-    HeldKeys m_heldKeys;
+    bool m_closesAfterEditing = false; // the user wants to close the window, and is asked about the layout
 };

@@ -39,7 +39,7 @@ void TurnableWindow::turnTo(ScreenOrientation orientation)
         return;
     }
     const QRect area = availableGeometry(); // before it reaches over to another screen
-    const QSize turned = DeviceWindowShape::turned(contentSize());
+    const QSize turned = m_hasEditingShape ? normalContentSize() : DeviceWindowShape::turned(contentSize());
     applyContent(DeviceWindowShape::fitted(turned, area.size()));
     moveInto(area);
 }
@@ -92,10 +92,39 @@ void TurnableWindow::mousePressEvent(QMouseEvent *event)
 
 void TurnableWindow::toggleMaximized()
 {
+    if (m_hasEditingShape)
+        return;
     if (m_maximized)
         titleBar()->onBtnRestoreClicked();
     else
         titleBar()->onBtnMaxClicked();
+}
+
+QSize TurnableWindow::normalContentSize() const
+{
+    return m_hasEditingShape ? DeviceWindowShape::editingContentSize(m_orientation)
+                             : DeviceWindowShape::contentSize(m_orientation);
+}
+
+// In the one shape there is nothing to maximise and no edge to drag: the places of the keys depend on it.
+void TurnableWindow::setEditingShape(bool editing)
+{
+    if (editing == m_hasEditingShape)
+        return;
+    if (editing) {
+        m_wasMaximized = m_maximized;
+        if (m_maximized)
+            toggleMaximized();
+    }
+    m_hasEditingShape = editing;
+    m_placings = 0;
+    const QRect area = availableGeometry();
+    setResizeLocked(editing);
+    titleBar()->setButtonType(editing ? OvTitleBarBase::MinCloseButtons : OvTitleBarBase::MinMaxCloseButtons);
+    applyContent(DeviceWindowShape::fitted(normalContentSize(), area.size()));
+    moveInto(area);
+    if (!editing && m_wasMaximized)
+        toggleMaximized();
 }
 
 void TurnableWindow::maximize()

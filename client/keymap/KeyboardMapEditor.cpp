@@ -21,6 +21,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QJsonDocument>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -365,6 +366,24 @@ void KeyboardMapEditor::applySchemeObject(const QJsonObject &scheme, bool oneCli
         m_manager->setComboBoxUpdating(false);
 }
 
+// The last save may be newer than the list, or one that the service never got.
+void KeyboardMapEditor::discardChanges()
+{
+    if (!m_manager)
+        return;
+    const QString mapId = m_manager->currentMapId();
+    m_manager->setModified(false);
+    if (!mapId.isEmpty() && mapId == m_manager->savedMapId()) {
+        applySchemeObject(QJsonDocument::fromJson(m_manager->currentConfigJson().toUtf8()).object(), false);
+        return;
+    }
+    const int row = m_schemeBox->rowOf(mapId);
+    if (row < 0)
+        m_manager->clearKeys();
+    else
+        apply(KeyMapScheme::fromList(m_manager->mapConfigAt(row)), false);
+}
+
 void KeyboardMapEditor::apply(const KeyMapScheme &scheme, bool toReference)
 {
     m_manager->clearKeys();
@@ -454,12 +473,17 @@ void KeyboardMapEditor::onSaveBtnClicked()
 {
     if (!m_manager)
         return;
-    QVariantMap scheme{{Member::opacity, opacity()}, {Member::size, keySize()},
+    QVariantMap saved = scheme();
+    m_manager->saveCurrentScheme(saved);
+    emit sigSaveAndClose();
+}
+
+QVariantMap KeyboardMapEditor::scheme() const
+{
+    return {{Member::opacity, opacity()}, {Member::size, keySize()},
         {Member::showKeys, m_controls->showKeysBox()->isChecked()},
         {Member::showKeyNotes, m_controls->showNotesBox()->isChecked()},
         {Member::orientation, m_orientation != ScreenOrientation::Portrait}};
-    m_manager->saveCurrentScheme(scheme);
-    emit sigSaveAndClose();
 }
 
 void KeyboardMapEditor::actOnScheme(const QString &action, const QVariantMap &scheme)

@@ -52,6 +52,10 @@ public:
     // `oneClick`: the user applies it by the button of the menu bar. While the manager does not record, the
     // view may have any size and the keys go to the same spots of the picture.
     void applySchemeObject(const QJsonObject &scheme, bool oneClick);
+    // Puts the current scheme back over the video as it was saved last; without one, removes the keys.
+    void discardChanges();
+    // The scheme that is being edited, without its keys.
+    QVariantMap scheme() const;
 
 signals:
     // The user asks for a new key of a kind.

@@ -50,6 +50,11 @@ QString idOf(const QJsonObject &scheme)
     return scheme.value(MapId).toVariant().toString();
 }
 
+QString jsonText(const QVariantMap &scheme)
+{
+    return QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(scheme)).toJson());
+}
+
 QJsonObject toJson(const OvAuxiliaryKey &key)
 {
     const bool isWalking = key.type() == keymap::WalkingKey;
@@ -280,8 +285,15 @@ void KeyboardMapMgr::saveCurrentScheme(QVariantMap &scheme)
 {
     scheme.insert(Config, keysToJson());
     onActionMapConfig(QStringLiteral("update"), scheme);
-    m_currentConfigJson = QString::fromUtf8(QJsonDocument(QJsonObject::fromVariantMap(scheme)).toJson());
+    m_currentConfigJson = jsonText(scheme);
+    m_savedMapId = m_currentMapId;
     AppSettings().setValue(LocalCopy, m_currentConfigJson);
+}
+
+void KeyboardMapMgr::keepLocalCopy(QVariantMap &scheme) const
+{
+    scheme.insert(Config, keysToJson());
+    AppSettings().setValue(LocalCopy, jsonText(scheme));
 }
 
 QJsonObject KeyboardMapMgr::mapConfigAt(int index) const
@@ -359,14 +371,18 @@ void KeyboardMapMgr::onActionMapConfig(QString type, const QVariantMap &mapConfi
         m_isModified = false; // what is changed from now on is not in what is sent
     post("actionMapConfig", body,
         {type,
-            [this](const ResponseData &) {
+            [this, isSaving](const ResponseData &) {
                 QTimer::singleShot(RefreshDelay, this, &KeyboardMapMgr::onRefreshMapConfig);
                 showToast(tr("Operated successfully"));
+                if (isSaving)
+                    emit sigSaved(true);
             },
             [this, isRenaming, isSaving] {
                 m_isModified = m_isModified || isSaving;
                 if (isRenaming)
                     emit sigUpdateComboBox();
+                if (isSaving)
+                    emit sigSaved(false);
             }});
 }
 

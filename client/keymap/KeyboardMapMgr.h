@@ -85,8 +85,11 @@ public:
     // Completes a scheme of the editor with the keys, stores it on the service as the current one, and keeps
     // it in the settings file as well, where it is whether the service answers or not.
     void saveCurrentScheme(QVariantMap &scheme);
-    // The scheme of the last save as JSON text; empty before.
+    // Keeps a scheme of the editor, with the keys, in the settings file alone.
+    void keepLocalCopy(QVariantMap &scheme) const;
+    // The scheme of the last save as JSON text, and its "map_id"; empty before.
     QString currentConfigJson() const { return m_currentConfigJson; }
+    QString savedMapId() const { return m_savedMapId; }
 
     // The schemes as the service last gave them, "config" in Base64.
     QJsonArray mapConfigs() const { return m_mapConfigs; }
@@ -104,6 +107,8 @@ signals:
     // The schemes should be shown again as mapConfigs() has them: what was shown in advance (a new name) was
     // refused.
     void sigUpdateComboBox();
+    // A save has ended: the service has the scheme, or it refused it or could not be reached.
+    void sigSaved(bool isStored);
 
 public slots:
     // For the sigDeleteBtnCicked of a key: removes it.
@@ -151,5 +156,6 @@ private:
     QVector<QPointer<OvAuxiliaryClick>> m_clickKeys; // in the order of their creation
     QJsonArray m_mapConfigs;
     QString m_currentConfigJson;
+    QString m_savedMapId;
     QString m_currentMapId;
 };

@@ -169,7 +169,7 @@ bool OvAuxiliaryKey::eventFilter(QObject *watched, QEvent *event)
         relayout();
     else if (event->type() == QEvent::Move)
         placeNoteEditor();
-    if (isRecording())
+    if (isRecording() || !videoView()->isEnabled() || !videoView()->isVisible())
         return false;
     const bool isMouseOnView = event->type() == QEvent::MouseMove || event->type() == QEvent::Leave;
     if (isView && !videoView()->isWindow() && !isMouseOnView)

@@ -26,14 +26,13 @@ SchemeImporter::SchemeImporter(KeyboardMapMgr *manager, QWidget *window)
 
 SchemeImporter::~SchemeImporter() = default;
 
-void SchemeImporter::follow(ShareConfigDlg *dialog)
+void SchemeImporter::importFrom(ShareConfigDlg *dialog)
 {
-    connect(dialog, &ShareConfigDlg::sigConfirmBtnClicked, this, [this, dialog] {
-        dialog->setBusy(true);
-        importScheme(dialog->code());
-    });
-    connect(this, &SchemeImporter::sigImported, dialog, &ShareConfigDlg::accept);
-    connect(this, &SchemeImporter::sigFailed, dialog, [dialog] { dialog->setBusy(false); });
+    if (m_importing)
+        return;
+    m_dialog = dialog;
+    dialog->setBusy(true);
+    importScheme(dialog->code());
 }
 
 void SchemeImporter::importScheme(const QString &code)
@@ -61,6 +60,8 @@ void SchemeImporter::onImported()
     m_importing = false;
     if (m_manager)
         m_manager->onRefreshMapConfig();
+    if (m_dialog)
+        m_dialog->accept();
     emit sigImported();
     showToast(tr("Operated successfully"));
 }
@@ -69,6 +70,8 @@ void SchemeImporter::onFailed(const QString &logText, const QString &message)
 {
     qWarning().noquote() << logText;
     m_importing = false;
+    if (m_dialog)
+        m_dialog->setBusy(false);
     emit sigFailed();
     showToast(message);
 }

@@ -22,9 +22,9 @@ public:
     explicit SchemeImporter(KeyboardMapMgr *manager, QWidget *window);
     ~SchemeImporter() override;
 
-    // Does what a dialog asks for: imports its code when it is confirmed, keeps it busy meanwhile, and closes
-    // it when that has succeeded. After a failure it stays open. The dialog may be closed at any time.
-    void follow(ShareConfigDlg *dialog);
+    // For a dialog that was confirmed: imports its code, keeps it busy meanwhile, and closes it when that has
+    // succeeded. After a failure it stays open. The dialog may be closed at any time.
+    void importFrom(ShareConfigDlg *dialog);
     // Imports the scheme with a sharing code, which is sent as it is. Nothing happens while one is under way.
     void importScheme(const QString &code);
 
@@ -42,4 +42,5 @@ private:
     QWidget *m_window; // the parent
     HttpHelper *m_httpHelper; // child
     bool m_importing = false;
+    QPointer<ShareConfigDlg> m_dialog; // not owned; whose code is being imported
 };

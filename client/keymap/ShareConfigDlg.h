@@ -12,7 +12,7 @@ class QPushButton;
 // a code with a mistake in it can be corrected.
 //
 //     auto *dialog = new ShareConfigDlg(window);
-//     importer->follow(dialog);
+//     connect(dialog, &ShareConfigDlg::sigConfirmBtnClicked, …); // there importer->importFrom(dialog)
 //     dialog->openAt(button);
 //
 // GUI thread; child of its window. Made with new: it deletes itself when it is closed.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QPointer>
@@ -24,6 +25,8 @@ public:
         m_body = body;
         m_status = status;
     }
+    // Another answer for the requests to a path that ends so.
+    void setAnswerFor(const QByteArray &pathEnd, const QByteArray &body) { m_bodies.insert(pathEnd, body); }
     // Answers the request that is being held back.
     void answerNow()
     {
@@ -57,6 +60,7 @@ private:
             return;
         requestLines.append(request.left(request.indexOf('\r')));
         bodies.append(QJsonDocument::fromJson(request.mid(headerEnd + 4, length)).object());
+        m_bodyFor = bodyFor(requestLines.last().split(' ').value(1));
         socket->readAll();
         if (m_dropping) {
             socket->abort();
@@ -67,17 +71,30 @@ private:
             answer(socket);
     }
 
+    // Null if there is none of its own.
+    QByteArray bodyFor(const QByteArray &path) const
+    {
+        for (auto it = m_bodies.cbegin(); it != m_bodies.cend(); ++it) {
+            if (path.endsWith(it.key()))
+                return it.value();
+        }
+        return {};
+    }
+
     void answer(QTcpSocket *socket)
     {
         const QByteArray status = m_status.isNull() ? QByteArray("200 OK") : m_status;
+        const QByteArray &body = m_bodyFor.isNull() ? m_body : m_bodyFor;
         socket->write("HTTP/1.1 " + status + "\r\nContent-Type: application/json\r\nConnection: close\r\n"
-            + "Content-Length: " + QByteArray::number(m_body.size()) + "\r\n\r\n" + m_body);
+            + "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
         socket->disconnectFromHost();
         m_waiting = nullptr;
     }
 
     bool m_dropping = false;
     QByteArray m_body;
+    QByteArray m_bodyFor; // of the newest request
+    QHash<QByteArray, QByteArray> m_bodies; // by the end of a path
     QByteArray m_status = "200 OK";
     QPointer<QTcpSocket> m_waiting;
 };

@@ -62,7 +62,6 @@ private slots:
     void bubbleGoes();
     void bubbleIsReleasedWithItsButton();
     void languageChange();
-    void keyMappingHidden();
     void disabledLooksSo();
 
 private:
@@ -262,17 +261,6 @@ void tst_MenuBar::languageChange()
     QCOMPARE(bubble->x() + bubble->width(), button(6)->mapToGlobal(QPoint(0, 0)).x());
     QVERIFY(bubble->contentWidget()->width() >= bubble->contentWidget()->sizeHint().width());
     QCoreApplication::removeTranslator(&marked);
-}
-
-void tst_MenuBar::keyMappingHidden()
-{
-    QVERIFY(button(5)->isVisible() && button(6)->isVisible());
-    m_bar->setKeyMappingShown(false);
-    QVERIFY(!button(5)->isVisible() && !button(6)->isVisible());
-    for (int i = 0; i < 5; ++i)
-        QVERIFY(button(i)->isVisible());
-    m_bar->setKeyMappingShown(true);
-    QVERIFY(button(5)->isVisible() && button(6)->isVisible());
 }
 
 void tst_MenuBar::disabledLooksSo()

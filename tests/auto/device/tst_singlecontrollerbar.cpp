@@ -33,7 +33,7 @@ private slots:
     void slotOrder();
     void keysOfTheDevice_data();
     void keysOfTheDevice();
-    void keyMappingIsNotOffered();
+    void everyButtonIsShown();
     void noBarWhileLoading();
     void screenshot_data();
     void screenshot();
@@ -87,7 +87,12 @@ void tst_SingleControllerBar::slotOrder()
     QCOMPARE(names,
         (QStringList{"onScreenRotateBtnClicked()", "onScreenRotation(ScreenOrientation)",
             "onResumeBtnClicked()", "onExitBtnClicked()", "onOperation()", "onPasteText()",
-            "onPlayInfo(const char*)", "onMaximizeShortcutActivated()"}));
+            "onPlayInfo(const char*)", "onMaximizeShortcutActivated()", "onKeyboardMapBtnClicked()",
+            "onApplyKeyBindingBtnClicked()", "onTutorialBtnClicked()", "onUploadBtnClicked()",
+            "onExitKeyBoardEditBtnClicked()", "onSaveAndCloseKeyboardEditor()",
+            "onAuxiliaryClickBtnClicked()", "onAuxiliaryCrosshairClicked()", "onAuxiliaryWalkingClicked()",
+            "onCreateAuxiliaryClickKey()", "onCreateAuxiliaryCrosshairKey()", "onCreateAuxiliaryWalkingKey()",
+            "onShareConfig()"}));
 }
 
 void tst_SingleControllerBar::keysOfTheDevice_data()
@@ -109,13 +114,13 @@ void tst_SingleControllerBar::keysOfTheDevice()
     QCOMPARE(takeCalls(), QStringList(QStringLiteral("SWDataSource::sendKeyEvent(3, %1)").arg(key)));
 }
 
-void tst_SingleControllerBar::keyMappingIsNotOffered()
+void tst_SingleControllerBar::everyButtonIsShown()
 {
     QVERIFY(m_fixture->open());
     const auto &buttons = m_fixture->child<MenuBar>()->buttons();
     QCOMPARE(buttons.size(), 7);
-    for (int i = 0; i < 7; ++i)
-        QCOMPARE(buttons.at(i)->isVisible(), i < 5);
+    for (const MenuButton *button : buttons)
+        QVERIFY(button->isVisible());
 }
 
 void tst_SingleControllerBar::noBarWhileLoading()
@@ -283,7 +288,7 @@ void tst_SingleControllerBar::titleHasTheRoomThatIsThere()
     const auto *title = window().titleBar()->findChild<QLabel *>(QStringLiteral("titleLabel"));
     const auto isWhole = [&] {
         return title->width() >= QFontMetrics(title->font()).horizontalAdvance(title->text())
-            && title->geometry().right() < quality()->x();
+            && title->geometry().right() < quality()->mapTo(window().titleBar(), QPoint(0, 0)).x();
     };
     QVERIFY(upright.size() > 3 && upright.endsWith(QChar(0x2026)));
     QTRY_VERIFY(isWhole());

@@ -247,9 +247,9 @@ void tst_SingleControllerShape::tooLargeWindowBecomesSmaller()
 
 void tst_SingleControllerShape::smallestSize()
 {
-    QCOMPARE(window().minimumSize(), QSize(345, 560) + Margins);
+    QCOMPARE(window().minimumSize(), QSize(365, 599) + Margins);
     window().onScreenRotateBtnClicked();
-    QCOMPARE(window().minimumSize(), QSize(570, 335) + Margins);
+    QCOMPARE(window().minimumSize(), QSize(609, 355) + Margins);
     const QWidget *quality = window().findChild<QWidget *>(QStringLiteral("delayLabel"));
     QVERIFY(quality->isVisible());
 }

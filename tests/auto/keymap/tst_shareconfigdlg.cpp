@@ -61,7 +61,8 @@ void TestShareConfigDlg::init()
     m_fixture = std::make_unique<EditorFixture>();
     m_dialog = new ShareConfigDlg(&f().window);
     m_importer = new SchemeImporter(f().manager, &f().window);
-    m_importer->follow(m_dialog);
+    QObject::connect(m_dialog, &ShareConfigDlg::sigConfirmBtnClicked, m_importer,
+        [this] { m_importer->importFrom(m_dialog); });
     logged.clear();
 }
 
