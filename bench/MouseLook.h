@@ -2,7 +2,6 @@
 
 #include <QJsonObject>
 
-class StreamController;
 class VideoView;
 
 namespace bench {

@@ -6,24 +6,22 @@
 
 #include "DeviceSession.h"
 #include "EventLoop.h"
-#include "Floor.h"
 #include "Hand.h"
 #include "InputCollector.h"
 #include "MouseLook.h"
 #include "Report.h"
 #include "Waiting.h"
 
+#include "device/SingleController.h"
 #include "keymap/KeyboardMapMgr.h"
 #include "keymap/OvAuxiliaryClick.h"
 #include "keymap/OvAuxiliaryCrosshair.h"
-#include "stream/StreamController.h"
 #include "stream/VideoView.h"
 #include "swplay/SWRuntime.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QRandomGenerator>
-#include <QVBoxLayout>
 
 #include <cstdio>
 #include <functional>
@@ -38,61 +36,36 @@ constexpr std::chrono::milliseconds heldTime(20);
 constexpr std::chrono::seconds tapTimeLimit(10);
 constexpr std::chrono::milliseconds settleTime(500); // for the last touch
 
-// A view with a click key on F and a crosshair on Q in its middle, wired as in the device window.
-class MappedView
+// The device window with a click key on F and a crosshair on Q, both in the middle of the view.
+class MappedWindow
 {
 public:
-    explicit MappedView(const stream::StreamingData &device);
-    ~MappedView() { m_stream->stopStream(); }
+    explicit MappedWindow(const QString &serviceId);
 
     VideoView &view() { return *m_view; }
-    StreamController &stream() { return *m_stream; }
-    double sensitivity() const { return m_crosshair->sensitivity(); }
+    double sensitivity() const { return m_manager->crosshairKey()->sensitivity(); }
 
 private:
-    template <typename Key>
-    Key *makeKey(const QString &name);
-
-    std::shared_ptr<StreamController> m_stream = std::make_shared<StreamController>();
-    QWidget m_window;
-    VideoView *m_view; // children of the window
+    SingleController m_window;
+    VideoView *m_view; // of the window, like the next
     KeyboardMapMgr *m_manager;
-    OvAuxiliaryCrosshair *m_crosshair = nullptr; // child of the view
 };
 
-MappedView::MappedView(const stream::StreamingData &device)
-    : m_view(new VideoView)
-    , m_manager(new KeyboardMapMgr(&m_window))
+MappedWindow::MappedWindow(const QString &serviceId)
+    : m_window(serviceId, QStringLiteral("bench"))
+    , m_view(m_window.findChild<VideoView *>())
+    , m_manager(m_window.findChild<KeyboardMapMgr *>())
 {
-    auto *layout = new QVBoxLayout(&m_window);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view);
-    m_window.resize(bench::viewSize);
-    m_view->setStreamController(m_stream);
-    m_view->setTouchPointSource(m_manager);
-    QObject::connect(m_view, &VideoView::touchEvent, m_stream.get(), &StreamController::onTouchEvent);
     m_window.show();
-    makeKey<OvAuxiliaryClick>(QStringLiteral("F"));
-    m_crosshair = makeKey<OvAuxiliaryCrosshair>(QStringLiteral("Q"));
-
-    m_stream->setVideoView(m_view);
-    m_stream->startStream(device, stream::Full);
+    m_window.applyDevice();
     e2e::waitUntil(QStringLiteral("the first picture"), [this] { return !m_view->picture().isNull(); });
+    m_window.onCreateAuxiliaryClickKey();
+    m_manager->lastClickKey()->setKeyText(QStringLiteral("F"));
+    m_window.onCreateAuxiliaryCrosshairKey();
+    m_manager->crosshairKey()->setKeyText(QStringLiteral("Q"));
     m_window.activateWindow();
     m_view->setFocus();
     e2e::waitUntil(QStringLiteral("the view has the keyboard"), [this] { return m_view->hasFocus(); });
-}
-
-template <typename Key>
-Key *MappedView::makeKey(const QString &name)
-{
-    auto *key = new Key(m_manager, m_view);
-    QObject::connect(key, &OvAuxiliaryKey::sigAuxiliaryKeyAction, m_view, &VideoView::onAuxiliaryKeyAction);
-    m_manager->addAuxiliaryKey(key->type(), key);
-    m_window.installEventFilter(key);
-    key->setKeyText(name);
-    key->show();
-    return key;
 }
 
 // One way of putting a finger down and lifting it.
@@ -100,7 +73,7 @@ struct Finger
 {
     std::function<qint64()> press; // returns when it began, as of Hand
     std::function<void()> release;
-    VideoView *view; // that emits the touches; null if they do not come from it
+    VideoView *view; // that emits the touches
 };
 
 // Presses and releases once. Goes on when the view has emitted the touch, so that on a busy machine no press
@@ -109,13 +82,12 @@ qint64 tap(const Finger &finger)
 {
     int emitted = 0;
     QObject counting; // for as long as the tap takes
-    if (finger.view)
-        QObject::connect(finger.view, &VideoView::touchEvent, &counting, [&] { ++emitted; });
+    QObject::connect(finger.view, &VideoView::touchEvent, &counting, [&] { ++emitted; });
     QTimer limit;
     limit.setSingleShot(true);
     limit.start(tapTimeLimit);
     const auto waitFor = [&](int count) {
-        while (finger.view && emitted < count && limit.isActive())
+        while (emitted < count && limit.isActive())
             QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         if (!limit.isActive())
             throw e2e::StepFailed(QStringLiteral("a key has no touch"));
@@ -173,16 +145,16 @@ std::vector<double> sentEvents(bench::DeviceSession &session, VideoView &view)
 }
 
 // What the keys' touches cost at least: the same messages, given to the connection at once.
-std::vector<double> bareTouches(bench::DeviceSession &session, StreamController &stream)
+std::vector<double> bareTouches(bench::DeviceSession &session, VideoView &view)
 {
-    const auto send = [&stream](int action, int x, int y) {
+    const auto send = [&view](int action, int x, int y) {
         const qint64 time = bench::Hand::nowNs();
         QVector<int> xs{x};
         QVector<int> ys{y};
-        stream.onTouchEvent(action, xs, ys);
+        emit view.touchEvent(action, xs, ys);
         return time;
     };
-    return pressToTouchMs(session, {[&] { return send(0, 360, 640); }, [&] { send(1, -1, -1); }, nullptr});
+    return pressToTouchMs(session, {[&] { return send(0, 360, 640); }, [&] { send(1, -1, -1); }, &view});
 }
 
 void addDelays(QJsonObject &figures, const QString &name, const std::vector<double> &milliseconds)
@@ -206,10 +178,10 @@ int run()
     SWRuntime::getInstance()->init(0, "");
     QJsonObject figures{{QStringLiteral("presses"), presses}};
     {
-        MappedView mapped(session.streamingData());
+        MappedWindow mapped(session.serviceId());
         addDelays(figures, QStringLiteral("key_to_touch"), realKeys(session, mapped.view()));
         addDelays(figures, QStringLiteral("event_to_touch"), sentEvents(session, mapped.view()));
-        addDelays(figures, QStringLiteral("floor"), bareTouches(session, mapped.stream()));
+        addDelays(figures, QStringLiteral("floor"), bareTouches(session, mapped.view()));
         const QJsonObject look
             = bench::MouseLook{lookSeconds()}.measure(session, mapped.view(), mapped.sensitivity());
         for (auto it = look.begin(); it != look.end(); ++it)
