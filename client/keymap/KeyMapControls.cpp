@@ -15,7 +15,7 @@ namespace {
 // Sizes in device-independent pixels.
 namespace Look {
 constexpr int TextPixels = 13;
-constexpr int SliderLabelWidth = 130;
+constexpr int SliderLabelWidth = 140;
 constexpr int SliderSpacing = 8;
 constexpr int SliderRowSpacing = 4;
 constexpr int KindSpacing = 8;

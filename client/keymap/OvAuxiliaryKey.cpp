@@ -40,6 +40,7 @@ constexpr int ButtonIconSide = 14;
 constexpr int LargestLetters = 14;
 constexpr int SmallestLetters = 6;
 constexpr int RoomBesideLetters = 4;
+constexpr int SmallKey = 44; // the buttons of a smaller one would hide its letters
 
 // Where an edge of a key lies whose place was computed from fractions: the pixel before, but never one before
 // the pixel that the fractions were taken from.
@@ -262,14 +263,16 @@ void OvAuxiliaryKey::applySize(int size)
     relayout();
 }
 
-// A long name in smaller letters.
+// A long name in smaller letters; in a small key that is being edited, beside its buttons.
 void OvAuxiliaryKey::fitKeyLabel()
 {
+    const int buttons = OvAuxiliaryKey::isRecording() && width() < SmallKey ? ButtonSide : 0;
+    m_keyLabel->setContentsMargins(0, 0, buttons, 0);
     QFont font = m_keyLabel->font();
     int pixels = LargestLetters;
     font.setPixelSize(pixels);
     while (pixels > SmallestLetters
-        && QFontMetrics(font).horizontalAdvance(m_keyLabel->text()) > width() - RoomBesideLetters)
+        && QFontMetrics(font).horizontalAdvance(m_keyLabel->text()) > width() - buttons - RoomBesideLetters)
         font.setPixelSize(--pixels);
     m_keyLabel->setFont(font);
 }
@@ -406,6 +409,7 @@ void OvAuxiliaryKey::onRecordingStatusChanged(bool isRecording)
 {
     liftFinger();
     m_isDragging = false;
+    fitKeyLabel();
     m_deleteButton->setVisible(isRecording);
     m_noteButton->setVisible(isRecording);
     if (isRecording)

@@ -22,9 +22,52 @@ constexpr int Side = 80;
 constexpr int LetterSide = 16;
 constexpr int LetterPixels = 12;
 
-int letterOf(int key)
+// The keyboard's own codes of the keys that have the letters in the Latin layouts of most countries.
+namespace ScanCode {
+#ifdef Q_OS_WIN
+constexpr quint32 W = 0x11;
+constexpr quint32 A = 0x1E;
+constexpr quint32 S = 0x1F;
+constexpr quint32 D = 0x20;
+#else // X11: 8 more than linux/input-event-codes.h has
+constexpr quint32 W = 25;
+constexpr quint32 A = 38;
+constexpr quint32 S = 39;
+constexpr quint32 D = 40;
+#endif
+} // namespace ScanCode
+
+int letterAt(quint32 scanCode)
 {
-    switch (key) {
+    switch (scanCode) {
+    case ScanCode::W:
+        return LetterW;
+    case ScanCode::A:
+        return LetterA;
+    case ScanCode::S:
+        return LetterS;
+    case ScanCode::D:
+        return LetterD;
+    default:
+        return 0;
+    }
+}
+
+// Whether a key is of a layout that has no Latin letters, such as a Russian one.
+bool isOfAnotherScript(int key)
+{
+    constexpr int FirstBeyondLatin1 = 0x100;
+    constexpr int FirstWithoutCharacter = 0x01000000;
+    if (key < FirstBeyondLatin1 || key >= FirstWithoutCharacter)
+        return false;
+    const QChar::Script script = QChar::script(static_cast<uint>(key));
+    return script != QChar::Script_Latin && script != QChar::Script_Common;
+}
+
+// By its letter; where the layout has no such letters, by its place on the keyboard.
+int letterOf(const QKeyEvent &event)
+{
+    switch (event.key()) {
     case Qt::Key_W:
         return LetterW;
     case Qt::Key_A:
@@ -34,7 +77,7 @@ int letterOf(int key)
     case Qt::Key_D:
         return LetterD;
     default:
-        return 0;
+        return isOfAnotherScript(event.key()) ? letterAt(event.nativeScanCode()) : 0;
     }
 }
 
@@ -131,7 +174,7 @@ bool OvAuxiliaryWalking::playEvent(QEvent *event)
 
 void OvAuxiliaryWalking::press(const QKeyEvent &event)
 {
-    const int letter = letterOf(event.key());
+    const int letter = letterOf(event);
     if (letter != 0) {
         m_heldMask |= letter;
         m_ignoredReleases &= ~letter;
@@ -166,7 +209,7 @@ void OvAuxiliaryWalking::release(const QKeyEvent &event)
 int OvAuxiliaryWalking::takeReleasedLetter(const QKeyEvent &event)
 {
     const int pressed = m_letterOfScanCode.take(event.nativeScanCode());
-    const int letter = pressed != 0 ? pressed : letterOf(event.key());
+    const int letter = pressed != 0 ? pressed : letterOf(event);
     const int ignored = letter & m_ignoredReleases;
     m_ignoredReleases &= ~ignored;
     return letter & ~ignored;

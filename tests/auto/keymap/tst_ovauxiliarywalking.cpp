@@ -27,6 +27,8 @@ private slots:
     void isQuietWhileEdited();
     void turnsWhileHeld();
     void comesUpAsAnotherLetter();
+    void otherScripts_data();
+    void otherScripts();
     void look();
     void isNotBound();
 
@@ -243,6 +245,40 @@ void TestOvAuxiliaryWalking::comesUpAsAnotherLetter()
     QCOMPARE(takeSent(), (QStringList{"0: 360,640", "1: -1,-1"}));
     send(QEvent::KeyPress, Qt::Key_W, false, 25);
     send(QEvent::KeyRelease, Qt::Key_A, false, 25);
+    QCOMPARE(m_key->heldMask(), 0);
+    QVERIFY(!m_key->isPressed());
+}
+
+void TestOvAuxiliaryWalking::otherScripts_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("scanCode"); // of X11
+    QTest::addColumn<int>("mask");
+    QTest::newRow("Russian at W") << 0x0426 << 25 << 1;
+    QTest::newRow("Russian at A") << 0x0424 << 38 << 2;
+    QTest::newRow("Russian at S") << 0x042B << 39 << 4;
+    QTest::newRow("Russian at D") << 0x0412 << 40 << 8;
+    QTest::newRow("Greek at W") << 0x03A3 << 25 << 1;
+    QTest::newRow("Thai at W") << 0x0E44 << 25 << 1;
+    QTest::newRow("Russian elsewhere") << 0x0426 << 24 << 0;
+    QTest::newRow("French at W") << int(Qt::Key_Z) << 25 << 0; // has a W elsewhere
+    QTest::newRow("Turkish F at W") << 0x011E << 25 << 0;
+    QTest::newRow("Return at W") << int(Qt::Key_Return) << 25 << 0;
+}
+
+// A keyboard without Latin letters walks with the keys in the same places.
+void TestOvAuxiliaryWalking::otherScripts()
+{
+#ifdef Q_OS_WIN
+    QSKIP("other codes");
+#endif
+    QFETCH(int, key);
+    QFETCH(int, scanCode);
+    QFETCH(int, mask);
+    send(QEvent::KeyPress, key, false, quint32(scanCode));
+    QCOMPARE(m_key->heldMask(), mask);
+    QCOMPARE(m_key->isPressed(), mask != 0);
+    send(QEvent::KeyRelease, key, false, quint32(scanCode));
     QCOMPARE(m_key->heldMask(), 0);
     QVERIFY(!m_key->isPressed());
 }

@@ -2,6 +2,7 @@
 #include <QFile>
 #include <QIcon>
 #include <QImage>
+#include <QPainter>
 #include <QSvgRenderer>
 #include <QTest>
 
@@ -14,6 +15,8 @@ private slots:
     void icons_data();
     void icons();
     void family();
+    void auxiliaryKeys_data();
+    void auxiliaryKeys();
     void standby();
 };
 
@@ -64,6 +67,48 @@ void TestIcons::family()
                      "stroke-linejoin=\"round\">"),
             name);
     }
+}
+
+void TestIcons::auxiliaryKeys_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("fillsItsPlace");
+    for (const char *path : {":/icon/svg/auxiliary_click.svg", ":/icon/svg/auxiliary_walking.svg",
+             ":/icon/svg/auxiliary_crosshair.svg"})
+        QTest::newRow(path) << QString::fromLatin1(path) << true;
+    for (const char *path : {":/icon/svg/auxiliary_delete", ":/icon/svg/auxiliary_edit",
+             ":/icon/svg/auxiliarykey_close", ":/icon/svg/auxiliarykey_confirm"})
+        QTest::newRow(path) << QString::fromLatin1(path) << false;
+}
+
+// The pictures over the video and of the notes' popup: drawn in the family's pen. The keys' fill their place.
+void TestIcons::auxiliaryKeys()
+{
+    QFETCH(QString, path);
+    QFETCH(bool, fillsItsPlace);
+    QFile file(path);
+    QVERIFY(file.open(QFile::ReadOnly));
+    const QByteArray source = file.readAll();
+    QVERIFY(source.contains("stroke-width=\"1.5\" stroke-linecap=\"round\" stroke-linejoin=\"round\">"));
+    QSvgRenderer drawing(source);
+    QVERIFY(drawing.isValid());
+    QCOMPARE(drawing.viewBox(), QRect(0, 0, 24, 24));
+    QImage image(104, 104, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    drawing.render(&painter);
+    painter.end();
+    int painted = 0;
+    bool isAtBorder = false;
+    for (int i = 0; i < 104 * 104; ++i) {
+        const QPoint pixel(i % 104, i / 104);
+        const bool isPainted = image.pixelColor(pixel).alpha() > 0;
+        painted += isPainted ? 1 : 0;
+        isAtBorder = isAtBorder
+            || (isPainted && (pixel.x() < 5 || pixel.y() < 5 || pixel.x() > 98 || pixel.y() > 98));
+    }
+    QCOMPARE(isAtBorder, fillsItsPlace);
+    QVERIFY(painted > 250);
 }
 
 // Shown with 93 pixels, also on screens scaled by 2 and more.

@@ -32,6 +32,14 @@ constexpr int TabsToOpenInPage = TabsToOpen + 1; // the button beside "Open"
 constexpr int menuButtonHeight = 45;
 constexpr int CaptureButton = 3; // in the menu bar
 constexpr int RotateButton = 4;
+constexpr int KeyEditingButton = 5;
+// In the device window while the key mapping is edited, which has that width then.
+constexpr int editingWidth = 640 + 2 * shadowMargin;
+constexpr QPoint schemeBox(480, 114);
+constexpr QPoint firstScheme(400, 145); // of the open list
+constexpr QPoint tutorialButton(378, 30);
+constexpr QPoint exitButton(542, 30);
+constexpr QPoint walkingKey(100, 514); // of the first scheme
 constexpr QPoint resumeButton(170, 320); // in the video's area
 constexpr int longestStandbyWaitMs = 90000;
 // In the main window at its working size.
@@ -76,6 +84,8 @@ bool DemoRun::run()
         writeNotes();
         scrollList();
         turn();
+        editKeys();
+        play();
         showCamera();
         captureDevice();
         showGroups();
@@ -258,6 +268,67 @@ void DemoRun::turn()
     });
     settledPicture(QStringLiteral("the upright picture is shown"), Desktop::window(m_deviceName));
     say(QStringLiteral("turned the window from the device's side and by the button"));
+}
+
+// The service's first scheme is made for the game.
+void DemoRun::editKeys()
+{
+    launch(QStringLiteral("Arena"));
+    Desktop::click(menuButton(KeyEditingButton));
+    const auto window = [this] { return Desktop::window(m_deviceName); };
+    waitUntil(QStringLiteral("the editor is open"), [&] { return window().width() == editingWidth; });
+    settledPicture(QStringLiteral("the editor is shown"), window());
+
+    Desktop::click(window().topLeft() + tutorialButton);
+    const QString tutorial = QStringLiteral("Key mapping");
+    waitUntil(QStringLiteral("the tutorial is open"), [&] { return !Desktop::window(tutorial).isEmpty(); });
+    save(QStringLiteral("tutorial"),
+        settledPicture(QStringLiteral("the tutorial is shown"), Desktop::window(tutorial)));
+    Desktop::activate(tutorial);
+    Desktop::key(QStringLiteral("Escape"));
+    waitUntil(QStringLiteral("the tutorial is closed"), [&] { return Desktop::window(tutorial).isEmpty(); });
+
+    const QRect key(window().topLeft() + walkingKey - QPoint(40, 40), QSize(80, 80));
+    const QImage without = Desktop::screenshot(key);
+    Desktop::activate(m_deviceName);
+    Desktop::click(window().topLeft() + schemeBox);
+    settledPicture(QStringLiteral("the schemes are shown"), window());
+    Desktop::click(window().topLeft() + firstScheme);
+    waitUntil(QStringLiteral("the scheme's keys lie over the video"),
+        [&] { return e2e::difference(Desktop::screenshot(key), without) > 0.2; });
+    Desktop::moveTo(window().topLeft() + tutorialButton + QPoint(-200, 0));
+    save(QStringLiteral("key-editing"), settledPicture(QStringLiteral("the keys are shown"), window()));
+    Desktop::click(window().topLeft() + exitButton);
+    waitUntil(QStringLiteral("the editor is closed"), [&] { return window().width() < editingWidth; });
+    settledPicture(QStringLiteral("the game is shown"), window());
+    say(QStringLiteral("read the tutorial, and laid the keys of a scheme over the game"));
+}
+
+void DemoRun::play()
+{
+    const auto game
+        = [this](const char *what) { return m_service.appState(m_pad).value(QLatin1String(what)); };
+    Desktop::keyDown(QStringLiteral("w"));
+    waitUntil(
+        QStringLiteral("the figure walks"), [&] { return game("position").toArray().at(1).toDouble() > 2; });
+    Desktop::keyDown(QStringLiteral("f"));
+    waitUntil(QStringLiteral("it shoots"), [&] { return game("shots").toInt() > 0; });
+    Desktop::keyUp(QStringLiteral("f"));
+    Desktop::key(QStringLiteral("q"));
+    const QPoint pointer = videoArea().center();
+    waitUntil(QStringLiteral("it looks around"), [&] {
+        Desktop::moveTo(pointer); // away from where it is held
+        const double heading = game("heading").toDouble(); // 0 and 360 are ahead
+        return heading > 15 && heading < 345;
+    });
+    save(QStringLiteral("playing"), Desktop::screenshot(Desktop::window(m_deviceName)));
+    Desktop::key(QStringLiteral("q"));
+    Desktop::keyUp(QStringLiteral("w"));
+    waitUntil(QStringLiteral("every finger has come up"),
+        [&] { return game("held").toObject().isEmpty() && !game("walking").toBool(); });
+    say(QStringLiteral("played with the keyboard: walked %1 m, shot, and turned to %2 degrees")
+            .arg(game("position").toArray().at(1).toDouble(), 0, 'f', 1)
+            .arg(game("heading").toDouble(), 0, 'f', 0));
 }
 
 // The computer's camera is a test source, so that there is one everywhere.

@@ -24,6 +24,8 @@ private:
     void writeNotes();
     void scrollList();
     void turn();
+    void editKeys();
+    void play();
     void showCamera();
     void captureDevice();
     void enterStandby();
