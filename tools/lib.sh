@@ -7,8 +7,8 @@ fail() { printf 'error: %s\n' "$*" >&2; exit 1; }
 # What building and running the product needs, as Debian packages.
 build_packages=(
     g++ cmake ninja-build pkg-config
-    qtbase5-dev qtwebengine5-dev libqt5webchannel5-dev libqt5svg5-dev libqt5x11extras5-dev qttools5-dev-tools
-    qtmultimedia5-dev libqt5multimedia5-plugins gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
+    qtbase5-dev qtwebengine5-dev libqt5webchannel5-dev libqt5svg5-dev libqt5x11extras5-dev libxcb1-dev
+    qttools5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins gstreamer1.0-plugins-good gstreamer1.0-plugins-bad
     libprotobuf-dev protobuf-compiler libboost-dev libssl-dev
     libavcodec-dev libavutil-dev libyuv-dev libx264-dev libsqlite3-dev libyaml-cpp-dev
     fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji fonts-dejavu-core
@@ -16,7 +16,7 @@ build_packages=(
 # What a virtual display needs.
 display_packages=(xvfb openbox xdotool x11-utils libgl1-mesa-dri)
 # What the tests need besides.
-test_packages=(libgtest-dev libgmock-dev python3 dpkg-dev file)
+test_packages=(libgtest-dev libgmock-dev libxcb-xtest0-dev python3 dpkg-dev file)
 # What the checks of the Windows client need (1.1 GB); they are skipped without it.
 windows_packages=(g++-mingw-w64-x86-64-posix wine wine64 nsis openssl)
 

@@ -77,6 +77,7 @@ OvAuxiliaryKey *DeviceKeyMapping::makeKey()
     m_manager->addAuxiliaryKey(key->type(), key);
     key->installEventFilter(this);
     m_window->installEventFilter(key);
+    key->liftFinger(); // what is held now was not pressed for this key, so that its release means nothing
     key->show();
     return key;
 }

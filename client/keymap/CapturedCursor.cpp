@@ -1,5 +1,7 @@
 #include "keymap/CapturedCursor.h"
 
+#include "keymap/ScreenPointer.h"
+
 #include <QCursor>
 #include <QWidget>
 
@@ -29,20 +31,19 @@ void CapturedCursor::hide()
     m_widget->setCursor(Qt::BlankCursor);
 }
 
-QPoint CapturedCursor::takeWay(const QPoint &place)
+QPointF CapturedCursor::takeWay(const QPoint &place)
 {
-    const QPoint way = QCursor::pos() - m_rest;
-    if (!way.isNull() || place != m_place)
+    const QPoint way = ScreenPointer::position() - m_rest;
+    if (place != m_place)
         holdAt(place);
-    return way;
+    else if (!way.isNull())
+        ScreenPointer::moveBy(-way);
+    return m_widget ? QPointF(way) / ScreenPointer::pixelRatio(*m_widget) : QPointF();
 }
 
 void CapturedCursor::holdAt(const QPoint &place)
 {
     QCursor::setPos(place);
-    if (place == m_place && m_isHeld)
-        return; // it rests where it did before; asking again would swallow what the mouse has done since
     m_place = place;
-    m_rest = QCursor::pos();
-    m_isHeld = true;
+    m_rest = ScreenPointer::position();
 }

@@ -22,10 +22,10 @@ public:
 
     // Hides the pointer over the widget, and lets the widget see the moves without a button.
     void hide();
-    // How far the pointer has gone since the last call, in screen pixels, and back to `place` with it. Moves
-    // that were on their way when the pointer was put back count once: a call for each of them gives (0, 0)
-    // from the second on.
-    QPoint takeWay(const QPoint &place);
+    // How far the pointer has gone since the last call, in pixels of the widget's coordinates, and back to
+    // `place` with it. Moves that were on their way when the pointer was put back count once: a call for each
+    // of them gives (0, 0) from the second on.
+    QPointF takeWay(const QPoint &place);
 
 private:
     void holdAt(const QPoint &place);
@@ -33,8 +33,7 @@ private:
     QPointer<QWidget> m_widget; // not owned
     bool m_isHidden = false; // hide() was called
     bool m_wasTracking = false; // the widget's, before hide()
-    bool m_isHeld = false; // the places below are known
     QPointF m_savedPosition; // global position of the pointer before
     QPoint m_place; // where the pointer was asked to be
-    QPoint m_rest; // where it came to rest: another pixel on screens with a fractional scale
+    QPoint m_rest; // where it came to rest then, in the display's own pixels
 };

@@ -52,8 +52,6 @@ bool OvAuxiliaryClick::takesRelease(const QKeyEvent &event)
 
 void OvAuxiliaryClick::liftFinger()
 {
-    if (!isPressed())
-        return;
-    m_ignoresRelease = true;
+    m_ignoresRelease = true; // also of a press that went elsewhere
     OvAuxiliaryKey::liftFinger();
 }

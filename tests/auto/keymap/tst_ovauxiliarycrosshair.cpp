@@ -2,6 +2,12 @@
 
 #include <QCursor>
 
+#include <atomic>
+#include <cstdlib>
+#include <thread>
+
+#include <xcb/xcb.h>
+
 // The key that looks around. The pointer is the display's; its moves are sent by hand, and what the display
 // sends besides comes when the pointer has been put back.
 class TestOvAuxiliaryCrosshair : public KeyMapFixture
@@ -20,6 +26,7 @@ private slots:
     void putsTheFingerDownAnewAtTheEdge();
     void movesOfThePointerBackDoNotCount();
     void keepsUpWithAFastMouse();
+    void losesNothingOfAMouseThatMovesMeanwhile();
     void pullsThePointerBackIntoTheView();
     void firesWhileLooking();
     void countsFromTheNewPlaceAfterMoving();
@@ -160,6 +167,35 @@ void TestOvAuxiliaryCrosshair::keepsUpWithAFastMouse()
     QCOMPARE(m_sent.last(), QString("2: 360,%1").arg(static_cast<int>(end.y())));
     QCoreApplication::processEvents(); // what the display has to tell about all this
     QCOMPARE(m_sent.size(), 1000);
+}
+
+// The pointer goes on while it is looked at and put back: another program moves it for real.
+void TestOvAuxiliaryCrosshair::losesNothingOfAMouseThatMovesMeanwhile()
+{
+    constexpr int pairs = 500; // of moves, to the right by a pixel in all
+    m_key->setSensitivity(1);
+    const qint16 there = 7;
+    const qint16 back = -6;
+    press(Qt::Key_R);
+    std::atomic<bool> hasEnded{false};
+    std::thread mouse([&] {
+        xcb_connection_t *display = xcb_connect(nullptr, nullptr);
+        const auto moveBy = [display](qint16 way) {
+            xcb_warp_pointer(display, XCB_NONE, XCB_NONE, 0, 0, 0, 0, way, 0);
+            std::free(xcb_get_input_focus_reply(display, xcb_get_input_focus(display), nullptr));
+        };
+        for (int i = 0; i < pairs; ++i) {
+            moveBy(there);
+            moveBy(back);
+        }
+        xcb_disconnect(display);
+        hasEnded = true;
+    });
+    while (!hasEnded)
+        QCoreApplication::processEvents();
+    mouse.join();
+    const double pixel = 720.0 / 340 * 0.25; // of the view, on the device
+    QTRY_COMPARE(m_key->touchPoint({720, 1280}), QPointF(360 + pairs * pixel, 640));
 }
 
 void TestOvAuxiliaryCrosshair::pullsThePointerBackIntoTheView()
