@@ -30,6 +30,10 @@ private:
     void closeDevice();
     void chooseStandbyTime();
     void showGroups();
+    void openGroup();
+    void playGroup();
+    void promoteTile();
+    void saveGroup();
     void changeLanguage();
     void openWebDevice();
     void capturePage();
@@ -37,6 +41,9 @@ private:
     void checkLog();
     void waitForNoSession();
 
+    // The devices with sessions, but for the one that has a window of its own.
+    QStringList groupPads() const;
+    static void clickInGroup(const QPoint &position);
     static void clickInMainWindow(const QPoint &position);
     // Taps an app's icon on the launcher and waits until the app is in front.
     void launch(const QString &app);
