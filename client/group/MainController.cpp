@@ -231,6 +231,7 @@ void MainController::showName()
     m_nameLabel->setText(QFontMetrics(font).elidedText(m_device.aliasName, Qt::ElideRight, room));
     m_nameLabel->adjustSize();
     const int videoTop = m_videoView ? m_videoView->y() : 0;
-    m_nameLabel->move((width() - m_nameLabel->width()) / 2, videoTop + Look::NameTop);
+    const int above = videoTop - m_nameLabel->height() - Look::NameTop; // where a lying picture leaves room
+    m_nameLabel->move((width() - m_nameLabel->width()) / 2, above >= 0 ? above : videoTop + Look::NameTop);
     m_nameLabel->raise();
 }

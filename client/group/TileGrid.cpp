@@ -42,10 +42,10 @@ TileGrid::TileGrid(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
-    m_content->setAutoFillBackground(false);
     m_rows->setSpacing(Look::RowSpacing);
     m_rows->setContentsMargins(Look::Margins);
     setWidget(m_content);
+    m_content->setAutoFillBackground(false); // which setWidget has turned on
 
     m_scrollBar->setStyleSheet(scrollBarStyle());
     m_scrollBar->setFocusPolicy(Qt::NoFocus);
