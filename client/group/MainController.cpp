@@ -137,6 +137,8 @@ void MainController::startStream()
 {
     m_stream->setVideoView(m_videoView);
     m_stream->startStream(group::streamingDataOf(m_device), stream::Full);
+    if (m_videoView)
+        m_videoView->fitPicturesToView();
 }
 
 // The old master first leaves: both sessions of a device are not needed at once.
@@ -213,6 +215,7 @@ void MainController::layOutVideo()
     if (m_videoView) {
         const QSize size = videoSize();
         m_videoView->setFixedSize(size);
+        m_videoView->fitPicturesToView();
         m_videoView->move((width() - size.width()) / 2, (containerHeight - size.height()) / 2);
         m_statusLabel->setGeometry(m_videoView->geometry());
     }
@@ -228,6 +231,7 @@ void MainController::showName()
     m_nameLabel->setText(QFontMetrics(font).elidedText(m_device.aliasName, Qt::ElideRight, room));
     m_nameLabel->adjustSize();
     const int videoTop = m_videoView ? m_videoView->y() : 0;
-    m_nameLabel->move((width() - m_nameLabel->width()) / 2, videoTop + Look::NameTop);
+    const int above = videoTop - m_nameLabel->height() - Look::NameTop; // where a lying picture leaves room
+    m_nameLabel->move((width() - m_nameLabel->width()) / 2, above >= 0 ? above : videoTop + Look::NameTop);
     m_nameLabel->raise();
 }

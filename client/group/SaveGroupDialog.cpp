@@ -24,6 +24,7 @@ constexpr int NameHeight = 25;
 constexpr int EditHeight = 34;
 constexpr int HintHeight = 28;
 constexpr int ErrorHeight = 28;
+constexpr int TitleGap = 6; // below the title
 constexpr int TitlePixels = 18;
 constexpr int TextPixels = 14;
 constexpr int HintPixels = 13;
@@ -32,6 +33,7 @@ constexpr int SmallestPixels = 9;
 constexpr QRgb TitleColour = qRgb(0x30, 0x31, 0x33);
 constexpr QRgb TextColour = qRgb(0x60, 0x62, 0x66);
 constexpr QRgb HintColour = qRgb(0x90, 0x93, 0x99);
+constexpr QRgb PlaceholderColour = qRgb(0xA8, 0xAB, 0xB2);
 constexpr QRgb ErrorColour = qRgb(255, 153, 153);
 } // namespace Look
 
@@ -88,13 +90,18 @@ void SaveGroupDialog::createContent()
     m_nameEdit->setFixedSize(GroupDialogBox::textWidth, Look::EditHeight);
     m_nameEdit->setStyleSheet(QStringLiteral(
         "QLineEdit { border: 1px solid #DCDFE6; border-radius: 4px; padding: 0 8px; background: white;"
-        " color: #303133; font-size: %1px; selection-background-color: #FF9B7A; }"
+        " font-size: %1px; selection-background-color: #FF9B7A; }"
         "QLineEdit:focus { border-color: #FF9B7A; }")
                                   .arg(Look::TextPixels));
+    QPalette colours = m_nameEdit->palette();
+    colours.setColor(QPalette::Text, QColor::fromRgb(Look::TitleColour));
+    colours.setColor(QPalette::PlaceholderText, QColor::fromRgb(Look::PlaceholderColour));
+    m_nameEdit->setPalette(colours);
     QVBoxLayout *content = m_box->content();
     for (QWidget *widget :
         QVector<QWidget *>{m_titleLabel, m_nameLabel, m_nameEdit, m_hintLabel, m_errorLabel})
         content->addWidget(widget, 0, Qt::AlignHCenter);
+    content->insertSpacing(1, Look::TitleGap);
     content->addStretch();
 }
 

@@ -42,10 +42,10 @@ TileGrid::TileGrid(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
-    m_content->setAutoFillBackground(false);
     m_rows->setSpacing(Look::RowSpacing);
     m_rows->setContentsMargins(Look::Margins);
     setWidget(m_content);
+    m_content->setAutoFillBackground(false); // which setWidget has turned on
 
     m_scrollBar->setStyleSheet(scrollBarStyle());
     m_scrollBar->setFocusPolicy(Qt::NoFocus);
@@ -60,14 +60,18 @@ TileGrid::~TileGrid() = default;
 
 void TileGrid::setTiles(const QList<QWidget *> &tiles)
 {
-    if (tiles == m_tiles)
+    QList<QPointer<QWidget>> guarded;
+    for (QWidget *tile : tiles)
+        guarded.append(tile);
+    if (guarded == m_tiles && !m_rowsStale)
         return;
+    m_rowsStale = false;
     removeRows();
-    for (QWidget *tile : qAsConst(m_tiles)) {
-        if (!tiles.contains(tile))
+    for (const QPointer<QWidget> &tile : qAsConst(m_tiles)) {
+        if (tile && !tiles.contains(tile))
             tile->hide();
     }
-    m_tiles = tiles;
+    m_tiles = guarded;
     QHBoxLayout *row = nullptr;
     for (int i = 0; i < tiles.size(); ++i) {
         if (i % tilesPerRow == 0) {
@@ -90,6 +94,7 @@ void TileGrid::takeTile(QWidget *tile)
 {
     if (m_tiles.removeAll(tile) == 0)
         return;
+    m_rowsStale = true;
     tile->hide();
 }
 

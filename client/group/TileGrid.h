@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QScrollArea>
 
 class QScrollBar;
@@ -23,7 +24,7 @@ public:
     // Lays these tiles out, in this order, and shows them; those laid out before and not among them are
     // hidden.
     void setTiles(const QList<QWidget *> &tiles);
-    // Forgets the tile, and hides it if it is laid out.
+    // Hides the tile, if it is laid out; the others move up at the next setTiles.
     void takeTile(QWidget *tile);
 
 protected:
@@ -36,5 +37,6 @@ private:
     QWidget *m_content; // child
     QVBoxLayout *m_rows;
     QScrollBar *m_scrollBar; // child; follows the area's own, which stays hidden
-    QList<QWidget *> m_tiles; // those laid out
+    QList<QPointer<QWidget>> m_tiles; // those laid out
+    bool m_rowsStale = false; // one of the tiles in the rows was taken
 };

@@ -78,7 +78,9 @@ void VideoView::setViewMode(int mode)
 
 void VideoView::fitPicturesToView()
 {
-    const QSize pixels = size() * devicePixelRatioF();
+    QSize pixels = size() * devicePixelRatioF();
+    if (m_orientation != ScreenOrientation::Portrait)
+        pixels.transpose(); // the picture is turned when it is painted
     if (!pixels.isEmpty())
         setDstFormat(BgraFormat, pixels.width(), pixels.height(), 0);
 }

@@ -58,7 +58,8 @@ public:
     // A stream::ViewMode.
     void setViewMode(int mode);
     // Takes pictures with no more pixels than the view has, until a stream is started or this is called
-    // again: they are scaled before they are converted, and painted as they are. For small views.
+    // again: they are scaled before they are converted, and painted as they are. For views much smaller than
+    // 720 x 1280.
     void fitPicturesToView();
     // Tells the size of the remote screen; without it no touch is sent.
     void setStreamController(const std::weak_ptr<StreamController> &controller);

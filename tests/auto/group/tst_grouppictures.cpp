@@ -31,10 +31,10 @@ private slots:
     void landscape();
     void tileMenu();
     void dialogs();
-    void textsFit_data();
     void textsFit();
 
 private:
+    void checkTexts(const QString &language) const;
     // A window with a master and so many tiles, each with a picture.
     bool openWith(int tiles);
     void save(const QString &name) const;
@@ -159,22 +159,26 @@ void TestGroupPictures::dialogs()
     save(QStringLiteral("expired"));
 }
 
-void TestGroupPictures::textsFit_data()
-{
-    QTest::addColumn<QString>("language");
-    const QStringList files = QDir(QStringLiteral(COMPILED_TRANSLATIONS)).entryList({QStringLiteral("*.qm")});
-    for (const QString &file : files)
-        QTest::newRow(qPrintable(file)) << file.section(QLatin1Char('.'), 0, 0);
-}
-
+// In every language there is.
 void TestGroupPictures::textsFit()
 {
-    QFETCH(QString, language);
     QVERIFY(openWith(2));
-    TranslateManager::instance()->onLanguegeChanged(language);
     m_fixture->window->onSaveGroupBtnClicked();
     m_fixture->window->findChild<SaveGroupDialog *>()->onConfirmBtnClicked();
-    QCoreApplication::processEvents();
+    const QStringList files = QDir(QStringLiteral(COMPILED_TRANSLATIONS)).entryList({QStringLiteral("*.qm")});
+    QVERIFY(!files.isEmpty());
+    for (const QString &file : files) {
+        const QString language = file.section(QLatin1Char('.'), 0, 0);
+        TranslateManager::instance()->onLanguegeChanged(language);
+        QCoreApplication::processEvents();
+        checkTexts(language);
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+void TestGroupPictures::checkTexts(const QString &language) const
+{
     save(QStringLiteral("texts-") + language);
     const auto *bar = m_fixture->child<FunctionBar>();
     for (const FunctionButton *button : bar->buttons()) {

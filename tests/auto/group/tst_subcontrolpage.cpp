@@ -72,6 +72,7 @@ private slots:
     void theLastTileGoesSilently();
     void removalOfTheOnlyTileOfTheLastPage();
     void removalMovesTheOthersUp();
+    void removalOfTheLastRow();
     void removalOfWhatIsNoLongerThere();
     void removedTilesGetNoInput();
 
@@ -494,6 +495,15 @@ void tst_SubControlPage::removalMovesTheOthersUp()
     QCOMPARE(shownTiles().last(), QStringLiteral("100050"));
     QVERIFY(m_page->findController(QStringLiteral("100050"))->isLive());
     QTRY_COMPARE(m_page->controllerAt(0)->mapTo(m_page, QPoint(0, 0)), QPoint(15, 24));
+}
+
+void tst_SubControlPage::removalOfTheLastRow()
+{
+    m_page->setDevices(devices(13));
+    const auto *content = m_page->findChild<QScrollArea *>()->widget();
+    QTRY_COMPARE(content->height(), 24 + 4 * 295 + 3 * 22 + 24);
+    emit m_page->controllerAt(12)->removeController(true);
+    QTRY_COMPARE(content->height(), 24 + 3 * 295 + 2 * 22 + 24);
 }
 
 void tst_SubControlPage::removalOfWhatIsNoLongerThere()

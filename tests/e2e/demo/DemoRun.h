@@ -33,6 +33,10 @@ private:
     void closeDevice();
     void chooseStandbyTime();
     void showGroups();
+    void openGroup();
+    void playGroup();
+    void promoteTile();
+    void saveGroup();
     void changeLanguage();
     void openWebDevice();
     void capturePage();
@@ -46,6 +50,9 @@ private:
 
     // What the installer of the demo leaves when it runs.
     QString installerMark() const;
+    // The devices with sessions, but for the one that has a window of its own.
+    QStringList groupPads() const;
+    static void clickInGroup(const QPoint &position);
     static void clickInMainWindow(const QPoint &position);
     // Taps an app's icon on the launcher and waits until the app is in front.
     void launch(const QString &app);

@@ -95,5 +95,6 @@ std::string arrayText(const T *values, int count)
 }
 
 // Shows a picture as the SDK does: render and then the arrival, on the calling thread. `pixels`: width x
-// height pixels of 32 bits, bytes B, G, R, A, rows without gaps, of the size that setDstFormat has set.
+// height pixels of 32 bits, bytes B, G, R, A, rows without gaps, no smaller than the size that setDstFormat
+// has set.
 int showPicture(VideoDisplay &display, const std::uint32_t *pixels, int width, int height);

@@ -19,8 +19,27 @@ struct VideoDisplayWinBase::Impl
     int height = 0;
     bool fresh = false; // `back` is newer than `front`
     std::vector<std::uint8_t> back;
+    int backWidth = 0;
+    int backHeight = 0;
     std::vector<std::uint8_t> front;
     FrameBuffer buffer; // of `front`
+
+    // The nearest pixels of a picture that is at least as large as the buffer.
+    void takeScaled(const VideoFrame &frame)
+    {
+        constexpr std::size_t PixelBytes = 4;
+        backWidth = width;
+        backHeight = height;
+        back.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * PixelBytes);
+        std::uint8_t *to = back.data();
+        for (int y = 0; y < height; ++y) {
+            const std::uint8_t *row
+                = frame.planes[0] + static_cast<std::ptrdiff_t>(y * frame.height / height) * frame.strides[0];
+            for (int x = 0; x < width; ++x, to += PixelBytes)
+                std::memcpy(
+                    to, row + static_cast<std::size_t>(x * frame.width / width) * PixelBytes, PixelBytes);
+        }
+    }
 };
 
 VideoDisplayWinBase::VideoDisplayWinBase()
@@ -43,11 +62,9 @@ void VideoDisplayWinBase::onFrameArrival()
 int VideoDisplayWinBase::render(VideoFrame *frame)
 {
     const std::lock_guard<std::mutex> lock(m_impl->lock);
-    if (frame->width != m_impl->width || frame->height != m_impl->height)
+    if (m_impl->width == 0 || frame->width < m_impl->width || frame->height < m_impl->height)
         return -1;
-    const auto rowBytes = static_cast<std::size_t>(frame->width) * 4;
-    m_impl->back.assign(
-        frame->planes[0], frame->planes[0] + rowBytes * static_cast<std::size_t>(frame->height));
+    m_impl->takeScaled(*frame);
     m_impl->fresh = true;
     return 0;
 }
@@ -67,7 +84,7 @@ const FrameBuffer *VideoDisplayWinBase::lockFrameBuffer()
     if (m_impl->fresh) {
         m_impl->front.swap(m_impl->back);
         m_impl->fresh = false;
-        m_impl->buffer = {m_impl->front.data(), m_impl->width, m_impl->height, m_impl->width * 4};
+        m_impl->buffer = {m_impl->front.data(), m_impl->backWidth, m_impl->backHeight, m_impl->backWidth * 4};
     }
     return m_impl->buffer.data ? &m_impl->buffer : nullptr;
 }
