@@ -105,6 +105,7 @@ void TestKeyMapping::initTestCase()
             QCoreApplication::applicationDirPath() + QStringLiteral("/orvane-cloud"), 1);
         m_service->start();
         qputenv("ORVANE_API_BASE_URL", m_service->apiBaseUrl().toUtf8());
+        Desktop::setKeyRepeat(false);
     });
     QCOMPARE(SWRuntime::getInstance()->init(1, qUtf8Printable(m_home.path())), 0);
 }
@@ -132,6 +133,7 @@ void TestKeyMapping::cleanup()
 
 void TestKeyMapping::cleanupTestCase()
 {
+    e2e::steps([] { Desktop::setKeyRepeat(true); });
     SWRuntime::getInstance()->deinit();
     m_service.reset();
 }

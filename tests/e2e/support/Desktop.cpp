@@ -3,6 +3,7 @@
 #include "Waiting.h"
 
 #include <QGuiApplication>
+#include <QLibrary>
 #include <QPixmap>
 #include <QProcess>
 #include <QRegularExpression>
@@ -62,6 +63,21 @@ void Desktop::activate(const QString &title)
         return !id.isEmpty();
     });
     xdotool({QStringLiteral("windowactivate"), QStringLiteral("--sync"), id});
+}
+
+// By the library that the toolkit's platform has loaded anyway.
+void Desktop::setKeyRepeat(bool repeats)
+{
+    QLibrary x11(QStringLiteral("X11"), 6);
+    const auto open = reinterpret_cast<void *(*)(const char *)>(x11.resolve("XOpenDisplay"));
+    const auto set
+        = reinterpret_cast<int (*)(void *)>(x11.resolve(repeats ? "XAutoRepeatOn" : "XAutoRepeatOff"));
+    const auto close = reinterpret_cast<int (*)(void *)>(x11.resolve("XCloseDisplay"));
+    void *display = open ? open(nullptr) : nullptr;
+    if (!display || !set || !close)
+        throw StepFailed(QStringLiteral("the repeating of keys could not be set"));
+    set(display);
+    close(display);
 }
 
 void Desktop::moveTo(const QPoint &pos)

@@ -32,6 +32,9 @@ public:
     // Press and release of a key, which repeats meanwhile as keys do.
     static void keyDown(const QString &name);
     static void keyUp(const QString &name);
+    // Whether keys that are held repeat; they do at first. On a busy machine the toolkit may take the half of
+    // a repeat for the key's release, when the other half has not arrived yet.
+    static void setKeyRepeat(bool repeats);
     static QImage screenshot(const QRect &area = {});
 
 private:
