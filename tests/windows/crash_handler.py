@@ -15,7 +15,7 @@ import winetools
 ROOT = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".").resolve()
 ACCESS_VIOLATION = 0xC0000005 & 0xFF  # what is left of the status
 AE_DEBUG = r"HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug"
-END_IN_SECONDS = 30  # a process that shows a dialog would stay
+END_IN_SECONDS = 180  # a process that shows a dialog would stay; a busy machine takes its time
 
 
 class CrashHandler(unittest.TestCase):

@@ -21,7 +21,7 @@ ROOT = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else ".").resolve()
 GUID = "{0F1E2D3C-4B5A-6978-8796-A5B4C3D2E1F0}"
 UNINSTALL = rf"Software\Microsoft\Windows\CurrentVersion\Uninstall\{GUID}"
 FOR_USER, FOR_ALL = "HKCU\\" + UNINSTALL, "HKLM\\" + UNINSTALL
-SECONDS = 60
+SECONDS = 180
 SIGNATURE = "signed by the test"
 
 # What each version consists of, besides orvane.exe; folders and names as real ones may be.

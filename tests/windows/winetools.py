@@ -61,7 +61,7 @@ class Wine:
             "WINEDLLOVERRIDES": "mscoree,mshtml=;winedbg.exe,winemenubuilder.exe=d",
         }
         try:
-            self.run("wineboot", "--init", seconds=120)
+            self.run("wineboot", "--init", seconds=300)
         except BaseException:
             self.__exit__()
             raise
@@ -77,7 +77,7 @@ class Wine:
         return subprocess.Popen(["wine", *map(str, command)], env=self.environment, cwd=self.folder,
                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
 
-    def run(self, *command, seconds=60):
+    def run(self, *command, seconds=180):
         """Runs a Windows program to its end. The result's returncode is what a Unix shell sees: the low byte."""
         with self.start(*command) as process:
             try:
