@@ -112,7 +112,7 @@ void InputCollector::fetch()
     while (socket.state() != QAbstractSocket::UnconnectedState && socket.waitForReadyRead(answerTimeoutMs))
         answer += socket.readAll();
     answer += socket.readAll();
-    if (!answer.startsWith("HTTP/1.1 200"))
+    if (!answer.startsWith("HTTP/1.1 200") || !answer.endsWith('}'))
         m_hasFailed = true;
     m_last = lastSequence(answer, m_last);
     m_answers.push_back(answer);

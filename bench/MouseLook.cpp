@@ -25,6 +25,7 @@ constexpr int deviceWidth = 720; // pixels
 constexpr int middle = deviceWidth / 2; // where the finger goes down
 constexpr double fingerShare = 0.25; // part of the mouse's way that the finger goes at a sensitivity of 1
 constexpr std::chrono::milliseconds settleTime(500); // for what may be under way
+constexpr int lateLimit = 20; // such times that the mouse may need longer
 
 enum TouchAction { Down = 0, Up = 1, Move = 2 };
 
@@ -166,11 +167,13 @@ QJsonObject MouseLook::measure(DeviceSession &session, VideoView &view, double s
     FastMouse mouse(seconds);
     const CpuSlices cpu(mouse, collector);
     const auto slices = static_cast<std::size_t>(seconds / sliceSeconds);
-    runEventLoop(std::chrono::seconds(seconds) + settleTime);
+    runEventLoop(std::chrono::seconds(seconds));
+    for (int i = 0; i < lateLimit && (!mouse.hasEnded() || cpu.count() < slices); ++i)
+        runEventLoop(settleTime); // a busy machine is late
     if (!mouse.hasEnded() || cpu.count() < slices)
         throw e2e::StepFailed(QStringLiteral("the mouse did not get through its moves in time"));
-    const std::vector<qint64> &moves = mouse.moves();
     runEventLoop(settleTime);
+    const std::vector<qint64> &moves = mouse.moves();
     const std::vector<ReceivedTouch> touches = collector.take();
     toggleLook(hand, view, Qt::ArrowCursor);
 

@@ -71,6 +71,7 @@ MappedWindow::MappedWindow(const QString &serviceId)
 // One way of putting a finger down and lifting it.
 struct Finger
 {
+    const char *name; // for the failure's text
     std::function<qint64()> press; // returns when it began, as of Hand
     std::function<void()> release;
     VideoView *view; // that emits the touches
@@ -120,15 +121,18 @@ std::vector<double> pressToTouchMs(bench::DeviceSession &session, const Finger &
             milliseconds.push_back(static_cast<double>(touch.timeNs - began[next]) / 1e6);
     }
     if (milliseconds.size() != began.size())
-        throw e2e::StepFailed(
-            QStringLiteral("of %1 presses the device got %2").arg(began.size()).arg(milliseconds.size()));
+        throw e2e::StepFailed(QStringLiteral("%1: of %2 presses the device got %3")
+                                  .arg(QLatin1String(finger.name))
+                                  .arg(began.size())
+                                  .arg(milliseconds.size()));
     return milliseconds;
 }
 
 std::vector<double> realKeys(bench::DeviceSession &session, VideoView &view)
 {
     bench::Hand hand;
-    return pressToTouchMs(session, {[&] { return hand.press(KEY_F); }, [&] { hand.release(KEY_F); }, &view});
+    return pressToTouchMs(
+        session, {"key_to_touch", [&] { return hand.press(KEY_F); }, [&] { hand.release(KEY_F); }, &view});
 }
 
 // From the toolkit's event on: without the display server.
@@ -140,8 +144,8 @@ std::vector<double> sentEvents(bench::DeviceSession &session, VideoView &view)
         QCoreApplication::sendEvent(&view, &event);
         return time;
     };
-    return pressToTouchMs(
-        session, {[&] { return send(QEvent::KeyPress); }, [&] { send(QEvent::KeyRelease); }, &view});
+    return pressToTouchMs(session,
+        {"event_to_touch", [&] { return send(QEvent::KeyPress); }, [&] { send(QEvent::KeyRelease); }, &view});
 }
 
 // What the keys' touches cost at least: the same messages, given to the connection at once.
@@ -154,7 +158,8 @@ std::vector<double> bareTouches(bench::DeviceSession &session, VideoView &view)
         emit view.touchEvent(action, xs, ys);
         return time;
     };
-    return pressToTouchMs(session, {[&] { return send(0, 360, 640); }, [&] { send(1, -1, -1); }, &view});
+    return pressToTouchMs(
+        session, {"floor", [&] { return send(0, 360, 640); }, [&] { send(1, -1, -1); }, &view});
 }
 
 void addDelays(QJsonObject &figures, const QString &name, const std::vector<double> &milliseconds)

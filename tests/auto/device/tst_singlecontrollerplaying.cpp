@@ -42,6 +42,7 @@ private slots:
     void keysTouchTheDevice();
     void keysAndMouseTogether();
     void walks();
+    void whatWasHeldBeforeDoesNothing();
     void looks();
     void turnedPicture();
     void fingersComeUp_data();
@@ -229,6 +230,22 @@ void tst_SingleControllerPlaying::walks()
     QCOMPARE(touches().last(), touchCall(0, {Fire, Stick + QPoint(0, -100)}));
     QTest::keyRelease(f().video(), Qt::Key_W);
     QCOMPARE(touches().last(), touchCall(1, {Fire}));
+}
+
+// The keys were pressed before there were auxiliary keys: their releases neither walk nor lift a finger.
+void tst_SingleControllerPlaying::whatWasHeldBeforeDoesNothing()
+{
+    QTest::keyPress(f().video(), Qt::Key_W);
+    QTest::keyPress(f().video(), Qt::Key_F);
+    applyArena();
+    QTest::keyRelease(f().video(), Qt::Key_W);
+    QTest::keyRelease(f().video(), Qt::Key_F);
+    QCOMPARE(f().manager()->walkingKey()->heldMask(), 0);
+    QCOMPARE(touches(), QStringList());
+    QTest::keyPress(f().video(), Qt::Key_D);
+    QTest::keyRelease(f().video(), Qt::Key_D);
+    QVERIFY(!f().manager()->walkingKey()->isPressed());
+    QVERIFY(!touches().isEmpty());
 }
 
 void tst_SingleControllerPlaying::looks()

@@ -15,6 +15,7 @@ private slots:
     void oneReceiverOneSignal();
     void passesRepeatsOn();
     void passesAReleaseWithoutPressOn();
+    void ignoresTheReleaseOfAPressThatWentElsewhere();
     void ignoresOtherKeys();
     void isQuietWhileEdited();
     void neverConsumes();
@@ -67,6 +68,19 @@ void TestOvAuxiliaryClick::passesAReleaseWithoutPressOn()
     make<OvAuxiliaryClick>("Q");
     release(Qt::Key_Q);
     QCOMPARE(m_sent, QStringList{"1: -1,-1"});
+}
+
+// It was pressed while another window had the keyboard.
+void TestOvAuxiliaryClick::ignoresTheReleaseOfAPressThatWentElsewhere()
+{
+    make<OvAuxiliaryClick>("Q");
+    QEvent event(QEvent::WindowDeactivate);
+    QApplication::sendEvent(m_window.get(), &event);
+    release(Qt::Key_Q);
+    QCOMPARE(takeSent(), QStringList());
+    press(Qt::Key_Q);
+    release(Qt::Key_Q);
+    QCOMPARE(m_sent, (QStringList{"0: 360,640", "1: -1,-1"}));
 }
 
 void TestOvAuxiliaryClick::ignoresOtherKeys()
