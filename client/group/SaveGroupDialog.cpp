@@ -98,8 +98,8 @@ void SaveGroupDialog::createContent()
     colours.setColor(QPalette::PlaceholderText, QColor::fromRgb(Look::PlaceholderColour));
     m_nameEdit->setPalette(colours);
     QVBoxLayout *content = m_box->content();
-    for (QWidget *widget :
-        QVector<QWidget *>{m_titleLabel, m_nameLabel, m_nameEdit, m_hintLabel, m_errorLabel})
+    const QVector<QWidget *> widgets = {m_titleLabel, m_nameLabel, m_nameEdit, m_hintLabel, m_errorLabel};
+    for (QWidget *widget : widgets)
         content->addWidget(widget, 0, Qt::AlignHCenter);
     content->insertSpacing(1, Look::TitleGap);
     content->addStretch();

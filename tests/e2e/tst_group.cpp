@@ -37,7 +37,7 @@ constexpr int TilePitch = 192; // from a tile to the next one
 constexpr QPoint SetAsMaster(86, 87); // in a tile
 constexpr QPoint Remove(86, 167);
 constexpr QPoint SingleControl(86, 207);
-constexpr QPoint ConfirmRemoval(747, 420);
+constexpr QPoint ConfirmRemoval(747, 396);
 // In a device's window, from its upper right corner.
 constexpr QPoint SingleCloseButton(-30, 30);
 
@@ -65,6 +65,7 @@ private:
     void waitForSessions(int count);
     void waitForPictures(int tiles);
     void clickTile(int index, const QPoint &entry);
+    static QPoint mainButtonOfTheSelection();
     static void clickIn(const QString &window, const QPoint &position);
     // The pads of the devices with sessions.
     QStringList pads() const;
@@ -159,6 +160,24 @@ void TestGroup::openSavedGroup()
     Desktop::activate(SavedGroup);
 }
 
+// The one button in the accent colour in the bar at the lower edge.
+QPoint TestGroup::mainButtonOfTheSelection()
+{
+    const QRect window = Desktop::window(MainWindow);
+    const QRect lowerEdge(window.left(), window.bottom() - 110, window.width(), 100);
+    const QImage picture = Desktop::screenshot(lowerEdge);
+    QRect button;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == QColor(0xFF, 0x9B, 0x7A))
+                button |= QRect(x, y, 1, 1);
+        }
+    }
+    if (button.isEmpty())
+        throw e2e::StepFailed(QStringLiteral("the selection has no main button"));
+    return lowerEdge.topLeft() + button.center();
+}
+
 // Of three devices: from the search field down to the cards, where Space selects.
 void TestGroup::openTemporaryGroup()
 {
@@ -170,11 +189,7 @@ void TestGroup::openTemporaryGroup()
         Desktop::key(QStringLiteral("Right"));
     }
     settledPicture(QStringLiteral("the selection"), Desktop::window(MainWindow));
-    // The last button of the page.
-    clickIn(
-        MainWindow, {DevicesItem.x(), DevicesItem.y() + 500}); // nothing there: the focus goes to the page
-    Desktop::key(QStringLiteral("shift+Tab"));
-    Desktop::key(QStringLiteral("Return"));
+    Desktop::click(mainButtonOfTheSelection());
     waitUntil(
         QStringLiteral("the group's window"), [] { return !Desktop::window(TemporaryGroup).isEmpty(); },
         20000);
@@ -321,8 +336,8 @@ void TestGroup::singleControlAndReturn()
         Desktop::click(Desktop::window(name).topRight() + SingleCloseButton);
         waitUntil(QStringLiteral("the window is closed"), [&] { return Desktop::window(name).isEmpty(); });
         waitForSessions(4);
+        Desktop::activate(SavedGroup);
         waitForPictures(3);
-        QVERIFY(!m_client->log().contains(QStringLiteral("[WARNING]")));
     });
 }
 
