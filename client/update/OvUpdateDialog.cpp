@@ -22,6 +22,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <limits>
+
 namespace {
 
 // What the service and the user rely on.
@@ -34,6 +36,8 @@ constexpr int httpOk = 200;
 
 // A description has a few hundred bytes.
 constexpr qint64 maxLatestInfoBytes = 65'536;
+// What may wait to be written.
+constexpr qint64 maxUnwrittenBytes = 4'194'304;
 // What the network layer may hold that has not been taken from it.
 constexpr qint64 readBufferBytes = 1'048'576;
 constexpr std::chrono::seconds defaultStallTime(30);
@@ -254,6 +258,7 @@ void OvUpdateDialog::updateNewVersion(const QString &updatePath, const QJsonArra
 void OvUpdateDialog::startPackage()
 {
     endPackage();
+    m_unwrittenBytes = 0;
     m_package = new PendingPackage(m_pendingDir, m_fileName);
     m_filePath = m_package->filePath();
     m_package->moveToThread(&m_fileThread);
@@ -268,6 +273,11 @@ void OvUpdateDialog::connectPackage()
         qInfo().noquote() << "the installer is there already:" << m_filePath;
         m_state = State::Ready;
         showState();
+    });
+    connect(m_package, &PendingPackage::sigTaken, this, [this](qint64 bytes) {
+        m_unwrittenBytes -= bytes;
+        if (m_reply && m_reply->bytesAvailable() > 0)
+            onPackagetReadyRead();
     });
     connect(m_package, &PendingPackage::sigCompleted, this, [this] {
         m_state = State::Ready;
@@ -366,15 +376,26 @@ void OvUpdateDialog::requestPackage()
     watch(reply);
     connect(reply, &QNetworkReply::downloadProgress, this, &OvUpdateDialog::onDownloadProgressChanged);
     connect(reply, &QNetworkReply::readyRead, this, &OvUpdateDialog::onPackagetReadyRead);
+    // Whoever hears of the end reads the rest.
+    connect(reply, &QNetworkReply::readChannelFinished, this,
+        [this] { passOn(std::numeric_limits<qint64>::max()); });
 }
 
+// What is too much stays with the reply, and then with the server, until some of it has been written.
 void OvUpdateDialog::onPackagetReadyRead()
 {
-    if (!m_reply)
+    passOn(maxUnwrittenBytes);
+}
+
+void OvUpdateDialog::passOn(qint64 limit)
+{
+    if (!m_reply || m_unwrittenBytes >= limit)
         return;
     const QByteArray bytes = takeBytes();
-    if (refusalOf(m_reply).isEmpty()) // else an explanation
-        m_package->append(bytes);
+    if (bytes.isEmpty() || !refusalOf(m_reply).isEmpty()) // an explanation
+        return;
+    m_unwrittenBytes += bytes.size();
+    m_package->append(bytes);
 }
 
 QByteArray OvUpdateDialog::takeBytes()

@@ -76,6 +76,8 @@ private:
     void watch(QNetworkReply *reply);
     void fail(const char *what, const QString &error);
     QByteArray takeBytes();
+    // Gives the package what has come, but not more than `limit` bytes at a time that are not written.
+    void passOn(qint64 limit);
     QString defectOfWholeReply() const;
     // Why a reply brings no file, or empty.
     static QString refusalOf(const QNetworkReply *reply);
@@ -88,6 +90,7 @@ private:
     HttpHelper *m_httpHelper = nullptr; // child, made on first use
     QPointer<QNetworkReply> m_reply; // of what is being downloaded; owned by the helper
     qint64 m_receivedBytes = 0; // of m_reply
+    qint64 m_unwrittenBytes = 0; // that m_package has been given
     QTimer *m_stallTimer; // child
     QThread m_fileThread;
     PendingPackage *m_package = nullptr; // lives on m_fileThread

@@ -16,8 +16,6 @@ const char installers[] = "*.exe";
 const char parts[] = "temp_*.part";
 } // namespace Contract
 
-constexpr qint64 maxUnwrittenBytes = 4'194'304;
-
 } // namespace
 
 PendingPackage::PendingPackage(const QString &pendingDir, const QString &fileName)
@@ -79,19 +77,11 @@ void PendingPackage::clear()
 
 void PendingPackage::append(const QByteArray &bytes)
 {
-    {
-        const QMutexLocker lock(&m_mutex);
-        while (m_unwrittenBytes > maxUnwrittenBytes)
-            m_written.wait(&m_mutex);
-        m_unwrittenBytes += bytes.size();
-    }
     QMetaObject::invokeMethod(
         this,
         [this, bytes] {
             write(bytes);
-            const QMutexLocker lock(&m_mutex);
-            m_unwrittenBytes -= bytes.size();
-            m_written.wakeAll();
+            emit sigTaken(bytes.size());
         },
         Qt::QueuedConnection);
 }

@@ -3,10 +3,8 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QFile>
-#include <QMutex>
 #include <QObject>
 #include <QString>
-#include <QWaitCondition>
 
 #include <atomic>
 
@@ -31,8 +29,7 @@ public:
     // Is the installer there, with this digest? Answers with sigChecked. If not, every installer in the
     // folder and what broken-off downloads have left are gone by then.
     void check(const QString &sha512);
-    // Takes the next bytes. Waits while too many have not been written yet, as the disk may be slower than
-    // the network.
+    // Takes the next bytes; says with sigTaken when they do not take memory any more.
     void append(const QByteArray &bytes);
     // All bytes have been given: makes them the installer and answers with sigCompleted.
     void complete();
@@ -41,6 +38,8 @@ public:
 
 signals:
     void sigChecked(bool verified);
+    // So many bytes have been written, or dropped after a failure.
+    void sigTaken(qint64 bytes);
     // The installer is in its place, or (logged) could not be put there.
     void sigCompleted();
     // The bytes cannot be written (logged); nothing more will be, and there will be no sigCompleted.
@@ -63,8 +62,4 @@ private:
     QFile m_part;
     QCryptographicHash m_hash{QCryptographicHash::Sha512}; // of what has been written
     bool m_failed = false;
-
-    QMutex m_mutex; // of the rest
-    QWaitCondition m_written;
-    qint64 m_unwrittenBytes = 0;
 };

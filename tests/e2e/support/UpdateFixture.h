@@ -68,10 +68,10 @@ public:
             .value(name)
             .toInt();
     }
-    // What the service tells a client that asks for updates, as the page hands it on.
-    static QJsonObject updateInfo(Service &service)
+    // What the service tells a client that asks for updates, as the page hands it on. `identity`: of a
+    // sign-in.
+    static QJsonObject updateInfo(const Service &service, const QJsonObject &identity)
     {
-        const QJsonObject identity = service.signIn();
         return service
             .call(QStringLiteral("GET"), QStringLiteral("/apiv1/client/update"), {},
                 {{QStringLiteral("access-token"), identity.value(QLatin1String("access_token"))},
