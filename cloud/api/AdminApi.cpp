@@ -18,6 +18,7 @@ namespace {
 // What the values of the bodies may be at most.
 constexpr std::int64_t maxRemainingSeconds = 1'000'000'000; // 31 years
 constexpr std::int64_t maxStallMs = 600'000;
+constexpr std::int64_t maxFilmRate = 25; // pictures a second
 constexpr std::int64_t maxKbitPerSec = 10'000'000;
 constexpr std::int64_t maxCorruptedUnits = 100'000;
 constexpr std::uint64_t maxPictureSide = 1280;
@@ -57,6 +58,7 @@ void AdminApi::addRoutes(Router &router)
     add(Verb::get, "/admin/devices/{pad}/input", &AdminApi::inputs);
     add(Verb::get, "/admin/devices/{pad}/app", &AdminApi::appState);
     add(Verb::post, "/admin/devices/{pad}/app", &AdminApi::openApp);
+    add(Verb::post, "/admin/devices/{pad}/film", &AdminApi::setFilmRate);
     add(Verb::get, "/admin/devices/{pad}/screen", &AdminApi::screen);
     add(Verb::post, "/admin/devices/{pad}/rotate", &AdminApi::rotate);
     add(Verb::post, "/admin/devices/{pad}/camera", &AdminApi::camera);
@@ -123,6 +125,13 @@ ApiAnswer AdminApi::openApp(const ApiCall &call)
     const std::string app = call.body.text("app");
     if (!m_fleet.openApp(call.pad, app))
         throw ApiError(ApiCode::BadField, "There is no app " + app + '.');
+    return {};
+}
+
+ApiAnswer AdminApi::setFilmRate(const ApiCall &call)
+{
+    demandDevice(call.pad);
+    m_fleet.setFilmRate(call.pad, static_cast<int>(call.body.integer("pictures_per_second", 1, maxFilmRate)));
     return {};
 }
 

@@ -27,6 +27,7 @@ private:
     ApiAnswer inputs(const ApiCall &call);
     ApiAnswer appState(const ApiCall &call);
     ApiAnswer openApp(const ApiCall &call);
+    ApiAnswer setFilmRate(const ApiCall &call);
     ApiAnswer screen(const ApiCall &call);
     ApiAnswer rotate(const ApiCall &call);
     ApiAnswer camera(const ApiCall &call);

@@ -28,6 +28,15 @@ QString text(const std::string &utf8)
     return QString::fromStdString(utf8);
 }
 
+std::vector<std::string> padCodesOf(const std::vector<Device> &devices)
+{
+    std::vector<std::string> padCodes;
+    padCodes.reserve(devices.size());
+    for (const Device &device : devices)
+        padCodes.push_back(device.padCode);
+    return padCodes;
+}
+
 // Made of the pad code (RFC 4122, version 5), so a device has the same one for good.
 QString uuidOf(const Device &device)
 {
@@ -128,7 +137,7 @@ ApiAnswer DeviceApi::actOnOne(const ApiCall &call)
     demandThatItCanAct(*device, action);
     switch (action) {
     case Action::Unbind:
-        unbind(call.signIn, *device);
+        unbind(call.signIn, {*device});
         return {};
     case Action::Reboot:
         m_fleet.reboot(device->padCode);
@@ -149,8 +158,7 @@ ApiAnswer DeviceApi::actOnMany(const ApiCall &call)
     QJsonObject data;
     switch (action) {
     case Action::Unbind:
-        for (const Device &device : devices)
-            unbind(call.signIn, device);
+        unbind(call.signIn, devices);
         break;
     case Action::Reboot:
         for (const Device &device : devices)
@@ -201,13 +209,9 @@ void DeviceApi::demandThatItCanAct(const Device &device, Action action) const
 
 std::vector<StreamSession> DeviceApi::grant(const SignIn &signIn, const std::vector<Device> &devices)
 {
-    std::vector<std::string> padCodes;
-    padCodes.reserve(devices.size());
-    for (const Device &device : devices)
-        padCodes.push_back(device.padCode);
     std::vector<StreamSession> sessions;
     sessions.reserve(devices.size());
-    for (StreamSessionStore::Granted &granted : m_data.sessions.grant(signIn, padCodes)) {
+    for (StreamSessionStore::Granted &granted : m_data.sessions.grant(signIn, padCodesOf(devices))) {
         for (const std::string &replaced : granted.replaced)
             m_fleet.endSession(replaced, false);
         sessions.push_back(std::move(granted.session));
@@ -215,9 +219,9 @@ std::vector<StreamSession> DeviceApi::grant(const SignIn &signIn, const std::vec
     return sessions;
 }
 
-void DeviceApi::unbind(const SignIn &signIn, const Device &device)
+void DeviceApi::unbind(const SignIn &signIn, const std::vector<Device> &devices)
 {
-    for (const std::string &sessionId : m_data.sessions.giveBack(signIn.userId, device.padCode))
+    for (const std::string &sessionId : m_data.sessions.giveBack(signIn.userId, padCodesOf(devices)))
         m_fleet.endSession(sessionId, false);
 }
 

@@ -38,7 +38,7 @@ private:
     void demandThatItCanAct(const Device &device, Action action) const;
     std::vector<Device> devicesOf(const ApiCall &call, Action action) const;
     std::vector<StreamSession> grant(const SignIn &signIn, const std::vector<Device> &devices);
-    void unbind(const SignIn &signIn, const Device &device);
+    void unbind(const SignIn &signIn, const std::vector<Device> &devices);
     QJsonObject connectionOf(const StreamSession &session) const;
 
     ServiceData &m_data;

@@ -49,15 +49,18 @@ StreamSessionStore::Granted StreamSessionStore::grantOne(const SignIn &signIn, c
     return granted;
 }
 
-std::vector<std::string> StreamSessionStore::giveBack(std::int32_t userId, std::string_view padCode)
+std::vector<std::string> StreamSessionStore::giveBack(
+    std::int32_t userId, const std::vector<std::string> &padCodes)
 {
+    std::vector<std::string> sessions;
     Transaction transaction(m_database);
-    Statement select(m_database, "SELECT session_id FROM stream_sessions WHERE pad_code = ? AND user_id = ?",
-        padCode, std::int64_t{userId});
-    std::vector<std::string> sessions = select.texts();
-    Statement(m_database, "DELETE FROM stream_sessions WHERE pad_code = ? AND user_id = ?", padCode,
-        std::int64_t{userId})
-        .run();
+    for (const std::string &padCode : padCodes) {
+        Statement remove(m_database,
+            "DELETE FROM stream_sessions WHERE pad_code = ? AND user_id = ? RETURNING session_id", padCode,
+            std::int64_t{userId});
+        const std::vector<std::string> ofDevice = remove.texts();
+        sessions.insert(sessions.end(), ofDevice.begin(), ofDevice.end());
+    }
     transaction.commit();
     return sessions;
 }

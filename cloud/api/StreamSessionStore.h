@@ -35,8 +35,8 @@ public:
 
     // Grants a session with each device, all or none; in the order of the pad codes, which must exist.
     std::vector<Granted> grant(const SignIn &signIn, const std::vector<std::string> &padCodes);
-    // Takes back all sessions of a user with a device. Returns their ids.
-    std::vector<std::string> giveBack(std::int32_t userId, std::string_view padCode);
+    // Takes back all sessions of a user with each device, all or none. Returns their ids.
+    std::vector<std::string> giveBack(std::int32_t userId, const std::vector<std::string> &padCodes);
     // Ids of the sessions with devices whose time ended after one moment, but not after another.
     std::vector<std::string> expiredBetween(WallTime after, WallTime until) const;
 

@@ -66,6 +66,8 @@ public:
         const std::string &padCode, std::uint64_t sequence) const = 0;
     virtual bool openApp(const std::string &padCode, const std::string &app)
         = 0; // "Home", "Paint", "Notes", …
+    // Pictures a second that the device's Video app shows, 1 to 25. False when there is no such device.
+    virtual bool setFilmRate(const std::string &padCode, int picturesPerSecond) = 0;
     virtual bool rotate(const std::string &padCode, int rotation) = 0; // 0 to 3
     virtual bool requestCamera(const std::string &padCode, bool on) = 0;
     // What the app in front shows, as JSON: {"app":"Notes","text":"…"}, {"app":"Paint","fingers":2,…}.

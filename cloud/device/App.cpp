@@ -28,6 +28,8 @@ void App::keyPressed(const KeyPress &)
 { }
 void App::textTyped(const QString &)
 { }
+void App::setFilmRate(int)
+{ }
 void App::cameraPicture(const QImage &, QSize)
 { }
 void App::systemChanged()

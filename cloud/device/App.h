@@ -95,6 +95,9 @@ public:
     virtual std::optional<TimePoint> nextTick() const { return std::nullopt; }
     virtual void tick(TimePoint now);
 
+    // How many pictures a second an app that plays a film shows of it, 1 to 25.
+    virtual void setFilmRate(int picturesPerSecond);
+
     // The size in pixels in which the app wants the camera's pictures; none = it does not want the camera.
     // Looked at while the app is in front.
     virtual std::optional<QSize> wantedCamera() const { return std::nullopt; }

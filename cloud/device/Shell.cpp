@@ -109,6 +109,7 @@ void Shell::bringToFront(AppKind kind)
     if (!find(kind)) {
         std::unique_ptr<App> app = makeApp(kind, hostFor(kind));
         app->resize(m_surface.contentSize());
+        app->setFilmRate(m_filmRate);
         m_apps.emplace(kind, std::move(app));
     }
     m_front = kind;
@@ -118,6 +119,14 @@ void Shell::bringToFront(AppKind kind)
     }
     m_resumePending = true;
     m_surface.invalidateAll();
+}
+
+void Shell::setFilmRate(int picturesPerSecond)
+{
+    m_filmRate = picturesPerSecond;
+    for (const auto &[kind, app] : m_apps) {
+        app->setFilmRate(picturesPerSecond);
+    }
 }
 
 void Shell::leaveFront()

@@ -62,6 +62,8 @@ public:
     bool isBooting() const { return m_boot.isActive(); }
     // Home or an installed app. False while starting.
     bool open(AppKind kind);
+    // Pictures a second of an app that plays a film, 1 to 25.
+    void setFilmRate(int picturesPerSecond);
     QJsonObject describe() const;
 
     void draw(QPainter &painter, const QRect &clip);
@@ -102,6 +104,7 @@ private:
     std::vector<AppKind> m_order; // of m_apps, last used first
     AppKind m_front = AppKind::Home;
     bool m_resumePending = false; // the front app does not know yet that it is in front
+    int m_filmRate = 25; // pictures a second
     NavigationBar m_navigation;
     VolumePanel m_volume;
     RecentApps m_recents;

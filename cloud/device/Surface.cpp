@@ -14,6 +14,8 @@ namespace {
 constexpr int BytesPerPixel = 4;
 constexpr int TurnTile
     = 16; // pixels; tiles that fit into the nearest cache turn five times as fast as the whole
+// Many small changes before the next paint are painted as one.
+constexpr int MaxPendingRects = 32;
 
 } // namespace
 
@@ -35,6 +37,9 @@ void Surface::invalidate(const QRect &rect)
     const QRect visible = rect & QRect({}, contentSize());
     if (!visible.isEmpty()) {
         m_pending += visible;
+        if (m_pending.rectCount() > MaxPendingRects) {
+            m_pending = m_pending.boundingRect();
+        }
         ++m_version;
     }
 }
@@ -66,6 +71,32 @@ void Surface::paint(const Draw &draw)
         turnIntoFrame(bounds);
     }
     m_dirty = m_dirty.united(toFrame(bounds));
+}
+
+void Surface::releaseFrame()
+{
+    m_frame = QImage();
+    m_content = QImage();
+    m_dirty = QRect();
+    m_pending = QRect({}, contentSize());
+}
+
+void Surface::drawScaled(QImage &image, const Draw &draw) const
+{
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.setTransform(frameTransform()
+        * QTransform::fromScale(static_cast<qreal>(image.width()) / m_portrait.width(),
+            static_cast<qreal>(image.height()) / m_portrait.height()));
+    const QRect everything({}, contentSize());
+    painter.setClipRect(everything);
+    draw(painter, everything);
+}
+
+QTransform Surface::frameTransform() const
+{
+    // A quarter turn to the right and back into the frame: (x, y) to (width - y, x).
+    return m_landscape ? QTransform(0, 1, -1, 0, m_portrait.width(), 0) : QTransform();
 }
 
 void Surface::turnIntoFrame(const QRect &content)

@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QRegion>
 #include <QSize>
+#include <QTransform>
 
 #include <cstdint>
 #include <functional>
@@ -35,6 +36,11 @@ public:
     // Draws what is pending.
     void paint(const Draw &draw);
     const QImage &frame() const { return m_frame; }
+    // Gives the frame's memory back; the next paint draws everything.
+    void releaseFrame();
+    // Draws everything into an image of any size in the frame's shape, whatever is pending. Costs little
+    // where the image is small.
+    void drawScaled(QImage &image, const Draw &draw) const;
     // Bounding rectangle in frame coordinates of what was painted since the last call.
     QRect takeDirty();
 
@@ -45,12 +51,14 @@ public:
 
 private:
     void turnIntoFrame(const QRect &content);
+    // From content to frame coordinates.
+    QTransform frameTransform() const;
 
     const QSize m_portrait;
     bool m_landscape = false;
     QImage m_frame; // none until the first paint, as most devices of a service are never watched
     QImage m_content; // landscape only
-    QRegion m_pending; // content coordinates
+    QRegion m_pending; // content coordinates; of few rectangles
     QRect m_dirty; // frame coordinates
     std::uint64_t m_version = 1;
 };

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <limits>
 
 namespace orvane::cloud {
@@ -28,6 +29,12 @@ void VideoApp::resume(TimePoint now)
     m_frameTime = now;
 }
 
+void VideoApp::setFilmRate(int picturesPerSecond)
+{
+    constexpr int FilmRate = std::chrono::seconds(1) / FrameInterval;
+    m_step = FilmRate / std::clamp(picturesPerSecond, 1, FilmRate);
+}
+
 void VideoApp::pause()
 {
     m_frameTime.reset();
@@ -35,12 +42,12 @@ void VideoApp::pause()
 
 std::optional<TimePoint> VideoApp::nextTick() const
 {
-    return m_frameTime ? std::optional(*m_frameTime + FrameInterval) : std::nullopt;
+    return m_frameTime ? std::optional(*m_frameTime + shownFor()) : std::nullopt;
 }
 
 void VideoApp::tick(TimePoint now)
 {
-    if (!m_frameTime || now < *m_frameTime + FrameInterval) {
+    if (!m_frameTime || now < *m_frameTime + shownFor()) {
         return;
     }
     const auto frames = (now - *m_frameTime) / FrameInterval;

@@ -4,8 +4,8 @@
 
 namespace orvane::cloud {
 
-// A film at 25 frames per second over the whole screen, with its frame number. Plays while it is in front and
-// keeps its speed when ticks are late, by leaving frames out.
+// A film of 25 frames per second over the whole screen, with its frame number. Plays while it is in front and
+// keeps its speed when ticks are late or fewer frames are to be shown, by leaving frames out.
 class VideoApp : public App
 {
 public:
@@ -21,8 +21,12 @@ public:
     void pause() override;
     std::optional<TimePoint> nextTick() const override;
     void tick(TimePoint now) override;
+    void setFilmRate(int picturesPerSecond) override;
 
 private:
+    std::chrono::milliseconds shownFor() const { return m_step * FrameInterval; }
+
+    int m_step = 1; // every so many frames one is shown
     int m_frame = 0; // shown
     std::optional<TimePoint> m_frameTime; // when m_frame was due; none while paused
 };

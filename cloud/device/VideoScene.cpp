@@ -6,20 +6,31 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
+#include <QTransform>
+
+#include <libyuv/scale_argb.h>
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
 #include <random>
+#include <tuple>
+#include <utility>
 
 namespace orvane::cloud {
 
 namespace {
 
-constexpr int LayerWidth = 1920; // pixels; wider than the screen, then it repeats
+constexpr int LayerWidth = 1920; // pixels; then it repeats
 constexpr qreal Turn = 6.283185307179586;
 constexpr int GrainTile = 256; // pixels
 constexpr double GrainStrength = 5; // standard deviation, of 255
+// Drawn at this share of its size or less, the film uses layers that are scaled once.
+constexpr qreal LargestMiniature = 0.5;
+constexpr std::size_t MaxMiniatures = 16; // of the process; viewers choose their sizes
 
 struct HillStyle
 {
@@ -66,6 +77,26 @@ QImage transparent(QSize size)
     return image;
 }
 
+QImage scaledOnce(const QImage &image, QSize size)
+{
+    QImage small(size, image.format());
+    libyuv::ARGBScale(image.constBits(), image.bytesPerLine(), image.width(), image.height(), small.bits(),
+        small.bytesPerLine(), size.width(), size.height(), libyuv::kFilterBox);
+    return small;
+}
+
+// By halves, since more at once would leave pixels out. Not with QImage::scaled(), which would start threads
+// of its own.
+QImage scaledDown(QImage image, QSize size)
+{
+    while (image.width() > 2 * size.width() || image.height() > 2 * size.height()) {
+        image = scaledOnce(image,
+            {std::max(size.width(), (image.width() + 1) / 2),
+                std::max(size.height(), (image.height() + 1) / 2)});
+    }
+    return scaledOnce(image, size);
+}
+
 QImage makeBalloon(const QColor &light, const QColor &dark, int width)
 {
     QImage image = transparent({width, width * 3 / 2});
@@ -98,12 +129,34 @@ QImage makeBalloon(const QColor &light, const QColor &dark, int width)
 
 const VideoScene &VideoScene::forScreen(QSize screen)
 {
-    if (screen.width() > screen.height()) {
-        static const VideoScene landscape(screen);
-        return landscape;
+    static std::mutex mutex;
+    static std::map<std::pair<int, int>, std::unique_ptr<const VideoScene>> bySize;
+    const std::lock_guard lock(mutex);
+    std::unique_ptr<const VideoScene> &scene = bySize[{screen.width(), screen.height()}];
+    if (!scene) {
+        scene = std::make_unique<const VideoScene>(screen);
     }
-    static const VideoScene portrait(screen);
-    return portrait;
+    return *scene;
+}
+
+const VideoScene *VideoScene::miniature(QSize screen, QSize size)
+{
+    using Key = std::tuple<int, int, int, int>;
+    static std::mutex mutex;
+    static std::map<Key, std::unique_ptr<const VideoScene>> bySize;
+    const VideoScene &full = forScreen(screen);
+    const std::lock_guard lock(mutex);
+    const Key key{screen.width(), screen.height(), size.width(), size.height()};
+    const auto found = bySize.find(key);
+    if (found != bySize.end()) {
+        return found->second.get();
+    }
+    if (bySize.size() >= MaxMiniatures) {
+        return nullptr;
+    }
+    // The constructor is private.
+    return bySize.emplace(key, std::unique_ptr<const VideoScene>(new VideoScene(full, size)))
+        .first->second.get();
 }
 
 VideoScene::VideoScene(QSize screen)
@@ -115,8 +168,28 @@ VideoScene::VideoScene(QSize screen)
         m_layers.at(static_cast<std::size_t>(i) + 1) = makeHills(i);
     }
     m_grain = {makeGrain(1), makeGrain(2), makeGrain(3)};
-    m_balloons = {makeBalloon(QColor(theme::Coral), QColor(0xFFFFD1BF), 150),
-        makeBalloon(QColor(theme::Cyan), QColor(0xFFB5F0FF), 96)};
+    m_balloons = {Balloon{makeBalloon(QColor(theme::Coral), QColor(0xFFFFD1BF), 150), 150},
+        Balloon{makeBalloon(QColor(theme::Cyan), QColor(0xFFB5F0FF), 96), 96}};
+}
+
+VideoScene::VideoScene(const VideoScene &full, QSize size)
+    : m_screen(full.m_screen)
+    , m_scale(static_cast<qreal>(size.width()) / m_screen.width(),
+          static_cast<qreal>(size.height()) / m_screen.height())
+    , m_sky(scaledDown(full.m_sky, size))
+    , m_layers(full.m_layers)
+    , m_balloons(full.m_balloons)
+{
+    const auto inSmall = [this](const QImage &image) {
+        const QPoint corner = scaled(image.width(), image.height());
+        return scaledDown(image, QSize(corner.x(), corner.y()).expandedTo(QSize(1, 1)));
+    };
+    for (Layer &layer : m_layers) {
+        layer.image = inSmall(layer.image);
+    }
+    for (Balloon &balloon : m_balloons) {
+        balloon.image = inSmall(balloon.image);
+    }
 }
 
 // Lighter and darker specks, strongest where the film is neither black nor white.
@@ -222,18 +295,22 @@ VideoScene::Layer VideoScene::makeHills(int index) const
 
 void VideoScene::draw(QPainter &painter, int frame) const
 {
-    painter.drawImage(0, 0, m_sky);
-    for (std::size_t i = 0; i < m_layers.size(); ++i) {
-        const Layer &layer = m_layers.at(i);
-        const auto shift = static_cast<int>(static_cast<std::int64_t>(frame) * layer.speed % LayerWidth);
-        painter.drawImage(-shift, layer.top, layer.image);
-        if (shift + m_screen.width() > LayerWidth) {
-            painter.drawImage(LayerWidth - shift, layer.top, layer.image);
-        }
-        if (i == 2) {
-            drawBalloons(painter, frame);
+    const QTransform transform = painter.deviceTransform();
+    const qreal scaleX = std::hypot(transform.m11(), transform.m12());
+    const qreal scaleY = std::hypot(transform.m21(), transform.m22());
+    if (std::max(scaleX, scaleY) <= LargestMiniature) {
+        const QSize size(qRound(m_screen.width() * scaleX), qRound(m_screen.height() * scaleY));
+        const VideoScene *small = size.isEmpty() ? nullptr : miniature(m_screen, size);
+        if (small) {
+            painter.save();
+            painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+            painter.scale(1 / scaleX, 1 / scaleY);
+            small->drawLayers(painter, frame);
+            painter.restore();
+            return;
         }
     }
+    drawLayers(painter, frame);
     // Never twice in the same place in a row.
     painter.setBrushOrigin(frame * 97 % GrainTile, frame * 61 % GrainTile);
     painter.fillRect(
@@ -241,18 +318,39 @@ void VideoScene::draw(QPainter &painter, int frame) const
     painter.setBrushOrigin(0, 0);
 }
 
+QPoint VideoScene::scaled(int x, int y) const
+{
+    return {qRound(x * m_scale.width()), qRound(y * m_scale.height())};
+}
+
+void VideoScene::drawLayers(QPainter &painter, int frame) const
+{
+    painter.drawImage(0, 0, m_sky);
+    for (std::size_t i = 0; i < m_layers.size(); ++i) {
+        const Layer &layer = m_layers.at(i);
+        const auto shift = static_cast<int>(static_cast<std::int64_t>(frame) * layer.speed % LayerWidth);
+        const QPoint first = scaled(-shift, layer.top);
+        for (int x = first.x(); x < m_sky.width(); x += layer.image.width()) {
+            painter.drawImage(x, first.y(), layer.image);
+        }
+        if (i == 2) {
+            drawBalloons(painter, frame);
+        }
+    }
+}
+
 void VideoScene::drawBalloons(QPainter &painter, int frame) const
 {
     for (std::size_t i = 0; i < m_balloons.size(); ++i) {
-        const QImage &balloon = m_balloons.at(i);
-        const int way = m_screen.width() + 2 * balloon.width();
+        const Balloon &balloon = m_balloons.at(i);
+        const int way = m_screen.width() + 2 * balloon.width;
         const std::int64_t start = static_cast<std::int64_t>(i + 1) * way / 3;
         const std::int64_t speed = i == 0 ? 3 : 2;
-        const int x = static_cast<int>((frame * speed + start) % way) - balloon.width();
+        const int x = static_cast<int>((frame * speed + start) % way) - balloon.width;
         const qreal swing = std::sin(Turn * (frame % 250) / 250.0 + static_cast<qreal>(i) * 2);
         const int y
             = static_cast<int>(m_screen.height() * (i == 0 ? 0.27 : 0.16) + swing * m_screen.height() * 0.04);
-        painter.drawImage(x, y, balloon);
+        painter.drawImage(scaled(x, y), balloon.image);
     }
 }
 

@@ -71,10 +71,10 @@ QJsonObject event(const char *type)
 
 struct VirtualDevice::Impl
 {
-    Impl(VirtualDevice &owner, std::string code, const std::string &name, WallClock wallClock)
+    Impl(VirtualDevice &owner, std::string code, const std::string &name, WallClock wallClock, QSize screen)
         : padCode(std::move(code))
-        , surface(screenSize())
-        , fingers(screenSize())
+        , surface(screen)
+        , fingers(screen)
         , shell(surface,
               {QString::fromStdString(name), batteryPercent(padCode), std::move(wallClock),
                   [&owner](const QString &text) {
@@ -102,13 +102,18 @@ struct VirtualDevice::Impl
     std::optional<QSize> camera; // what the clients were asked for last
 };
 
-VirtualDevice::VirtualDevice(std::string padCode, const std::string &name, WallClock wallClock)
-    : m_impl(std::make_unique<Impl>(*this, std::move(padCode), name, std::move(wallClock)))
+VirtualDevice::VirtualDevice(std::string padCode, const std::string &name, WallClock wallClock, QSize screen)
+    : m_impl(std::make_unique<Impl>(*this, std::move(padCode), name, std::move(wallClock), screen))
 { }
 
 VirtualDevice::~VirtualDevice() = default;
 
 // --- Screen ---
+
+QSize VirtualDevice::screenSize() const
+{
+    return m_impl->surface.portraitSize();
+}
 
 int VirtualDevice::rotation() const
 {
@@ -137,6 +142,17 @@ const QImage &VirtualDevice::frame()
 {
     m_impl->paint();
     return m_impl->surface.frame();
+}
+
+void VirtualDevice::releaseFrame()
+{
+    m_impl->surface.releaseFrame();
+}
+
+void VirtualDevice::drawScaled(QImage &image)
+{
+    m_impl->surface.drawScaled(
+        image, [this](QPainter &painter, const QRect &clip) { m_impl->shell.draw(painter, clip); });
 }
 
 QRect VirtualDevice::takeDirty()
@@ -305,6 +321,11 @@ bool VirtualDevice::openApp(const std::string &name)
     const bool opened = kind && m_impl->shell.open(*kind);
     followCamera();
     return opened;
+}
+
+void VirtualDevice::setFilmRate(int picturesPerSecond)
+{
+    m_impl->shell.setFilmRate(picturesPerSecond);
 }
 
 std::string VirtualDevice::appStateJson() const

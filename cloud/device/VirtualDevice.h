@@ -25,8 +25,8 @@ struct TouchPoint
     float pressure = 0; // 0 to 1; 0 or anything else = not known
 };
 
-// A virtual Android device: a screen of 720 x 1280 pixels that is drawn only where something changed, with
-// multi-touch, keys, text and rotation, a launcher and a few apps.
+// A virtual Android device: a screen that is drawn only where something changed and only when its picture is
+// asked for, with multi-touch, keys, text and rotation, a launcher and a few apps.
 //
 // Thread-compatible: any thread may call it, but never two at once. It has no timers and no clock of its own:
 // every time point comes from the caller, and the earliest one it wants to be ticked at is nextTick(). Times
@@ -40,15 +40,16 @@ public:
     using WallClock = std::function<QDateTime()>;
 
     // `padCode`: the device's code; `name`: shown on its home screen; both UTF-8. `wallClock`: date and time
-    // for the status bar and the home screen, read whenever the device is awake anyway.
-    VirtualDevice(
-        std::string padCode, const std::string &name, WallClock wallClock = &QDateTime::currentDateTime);
+    // for the status bar and the home screen, read whenever the device is awake anyway. `screen`: its size in
+    // portrait, pixels, even; apps are made for a width of 720 or more and at least 16:9.
+    VirtualDevice(std::string padCode, const std::string &name,
+        WallClock wallClock = &QDateTime::currentDateTime, QSize screen = {720, 1280});
     ~VirtualDevice();
     VirtualDevice(const VirtualDevice &) = delete;
     VirtualDevice &operator=(const VirtualDevice &) = delete;
 
     // The portrait screen: the space of touch coordinates and of frame(), whatever the rotation.
-    static QSize screenSize() { return {720, 1280}; }
+    QSize screenSize() const;
     // Quarter turns, 0 to 3; odd = landscape.
     int rotation() const;
     // Turns the screen; other values than 0 to 3 are refused with a log line. Apps lose their fingers.
@@ -71,10 +72,15 @@ public:
     // Lifts the session's fingers and keys. An unknown session is none.
     void sessionGone(const std::string &sessionKey, TimePoint time);
 
-    // The screen, always portrait, Format_RGB32. Landscape content (1280 x 720) is turned into it so that it
-    // is upright after turning the frame by -90 degrees: content (x, y) is at frame (719 - y, x). Draws what
-    // has changed first. The reference stays valid, the pixels change with the next call.
+    // The screen, always portrait, Format_RGB32. Landscape content is turned into it so that it is upright
+    // after turning the frame by -90 degrees: of a screen 720 wide, content (x, y) is at frame (719 - y, x).
+    // Draws what has changed first. The reference stays valid, the pixels change with the next call.
     const QImage &frame();
+    // Gives back the memory of frame(), which a device needs from the first call of it on.
+    void releaseFrame();
+    // The same picture drawn anew at the size of the image (Format_RGB32), without frame(). A small image
+    // costs a fraction of drawing and scaling the screen.
+    void drawScaled(QImage &image);
     // Bounding rectangle, in frame coordinates, of what changed since the last call; empty = nothing. Draws.
     QRect takeDirty();
     // Counts up whenever the picture is about to change; equal values mean an equal picture. Does not draw.
@@ -90,6 +96,9 @@ public:
     bool isBooting() const;
     // Brings "Home" or an app to the front. False when there is no such app or the device is starting.
     bool openApp(const std::string &name);
+    // How many pictures a second the Video app shows of its film, which has 25; 1 to 25, rounded to an even
+    // step.
+    void setFilmRate(int picturesPerSecond);
     // What the app in front shows, as a JSON object in UTF-8; docs/api.md lists the members.
     std::string appStateJson() const;
     // Asks the clients for the camera, or no longer, whatever the app in front wants.

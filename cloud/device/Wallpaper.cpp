@@ -8,6 +8,9 @@
 #include <QRadialGradient>
 
 #include <cmath>
+#include <map>
+#include <mutex>
+#include <utility>
 
 namespace orvane::cloud {
 
@@ -57,12 +60,14 @@ QImage draw(QSize screen)
 
 const QImage &wallpaper(QSize screen)
 {
-    if (screen.width() > screen.height()) {
-        static const QImage landscape = draw(screen);
-        return landscape;
+    static std::mutex mutex;
+    static std::map<std::pair<int, int>, QImage> bySize;
+    const std::lock_guard lock(mutex);
+    QImage &image = bySize[{screen.width(), screen.height()}];
+    if (image.isNull()) {
+        image = draw(screen);
     }
-    static const QImage portrait = draw(screen);
-    return portrait;
+    return image;
 }
 
 } // namespace orvane::cloud

@@ -5,8 +5,8 @@
 
 namespace orvane::cloud {
 
-// The picture behind home screen and recent apps. Drawn once per orientation for the whole process and
-// shared; any thread.
+// The picture behind home screen and recent apps. Drawn once per screen size for the whole process and
+// shared, with as long a life; any thread.
 const QImage &wallpaper(QSize screen);
 
 } // namespace orvane::cloud

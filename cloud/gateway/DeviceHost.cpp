@@ -5,6 +5,7 @@
 #include <boost/asio/post.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace orvane::cloud {
 
@@ -47,10 +48,11 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
 } // namespace
 
-DeviceHost::DeviceHost(std::string padCode, const std::string &name, const Executor &executor)
+DeviceHost::DeviceHost(std::string padCode, const std::string &name, QSize screen, const Executor &executor)
     : m_padCode(std::move(padCode))
     , m_strand(boost::asio::make_strand(executor))
-    , m_device(m_padCode, name)
+    , m_device(m_padCode, name, &QDateTime::currentDateTime, screen)
+    , m_pictures(m_device, m_deviceMutex)
     , m_timer(m_strand)
 {
     // The device calls these while it is being used, that is with the mutex held.
@@ -124,6 +126,15 @@ bool DeviceHost::openApp(const std::string &app)
     return opened;
 }
 
+void DeviceHost::setFilmRate(int picturesPerSecond)
+{
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        m_device.setFilmRate(picturesPerSecond);
+    }
+    postUpdate();
+}
+
 bool DeviceHost::rotate(int rotation)
 {
     if (rotation < 0 || rotation > 3) {
@@ -163,7 +174,7 @@ QImage DeviceHost::screen()
 {
     const std::lock_guard lock(m_deviceMutex);
     catchUp(Clock::now());
-    return m_device.frame().copy(); // the device goes on painting into its own
+    return m_pictures.snapshot();
 }
 
 std::uint64_t DeviceHost::screenVersion()
@@ -306,14 +317,14 @@ void DeviceHost::update(FrameCause cause)
     const bool watched = isWatched();
     TimePoint now;
     std::vector<DeviceEvent> events;
-    QRect dirty;
+    std::uint64_t version = m_seenVersion;
     std::optional<TimePoint> tick;
     {
         const std::lock_guard lock(m_deviceMutex);
         now = Clock::now();
         if (watched) {
             catchUp(now);
-            dirty = m_device.takeDirty();
+            version = m_device.pictureVersion();
             tick = m_device.nextTick();
         }
         events.swap(m_events);
@@ -321,17 +332,27 @@ void DeviceHost::update(FrameCause cause)
     for (const DeviceEvent &event : events) {
         deliver(event);
     }
-    if (!watched) {
-        m_picture.reset();
-    }
-    m_stale = m_stale.united(dirty);
+    const bool changed = std::exchange(m_seenVersion, version) != version;
     for (const auto &entry : m_entries) {
-        if (!dirty.isEmpty()) {
+        if (changed) {
             entry->viewer.screenChanged(cause);
         }
-        entry->viewer.pump(now, [this]() -> const YuvPicture & { return picture(); });
+        entry->viewer.pump(
+            now, [this](QSize size) -> const YuvPicture & { return m_pictures.picture(size); });
     }
+    releasePictures();
     schedule(now, tick);
+}
+
+void DeviceHost::releasePictures()
+{
+    std::vector<QSize> wanted;
+    for (const auto &entry : m_entries) {
+        if (const auto size = entry->viewer.pictureSize()) {
+            wanted.push_back(*size);
+        }
+    }
+    m_pictures.keep(wanted);
 }
 
 void DeviceHost::deliver(const DeviceEvent &event)
@@ -373,27 +394,24 @@ void DeviceHost::tellSensor(Viewer &viewer, const SensorEvent &event)
     viewer.link().sendControl(server::sensorRequest(event.inputType, event.state, event.width, event.height));
 }
 
-const YuvPicture &DeviceHost::picture()
-{
-    const std::lock_guard lock(m_deviceMutex);
-    const QImage &frame = m_device.frame();
-    if (!m_picture) {
-        m_picture.emplace(frame.width(), frame.height());
-        m_stale = frame.rect();
-    }
-    m_picture->convert(frame, m_stale);
-    m_stale = QRect();
-    return *m_picture;
-}
-
 void DeviceHost::schedule(TimePoint now, std::optional<TimePoint> deviceTick)
 {
-    std::optional<TimePoint> next = deviceTick;
+    std::optional<TimePoint> next;
+    std::optional<TimePoint> usefulTick; // when somebody can be shown what the device does by itself
+    const auto earliest = [](std::optional<TimePoint> &least, TimePoint time) {
+        least = least ? std::min(*least, time) : time;
+    };
     for (const auto &entry : m_entries) {
-        const auto time = entry->viewer.nextPump(now);
-        if (time && (!next || *time < *next)) {
-            next = time;
+        const Viewer &viewer = entry->viewer;
+        if (const auto time = viewer.nextPump(now)) {
+            earliest(next, *time);
         }
+        if (deviceTick && viewer.isWatching()) {
+            earliest(usefulTick, std::max(*deviceTick, viewer.nextAnimationTime(now)));
+        }
+    }
+    if (usefulTick) {
+        earliest(next, *usefulTick);
     }
     if (next == m_timerAt) {
         return; // already set, or not needed

@@ -2,6 +2,7 @@
 
 #include "core/DeviceFleet.h"
 #include "device/VirtualDevice.h"
+#include "gateway/ScreenPictures.h"
 #include "gateway/Viewer.h"
 
 #include <boost/asio/steady_timer.hpp>
@@ -17,8 +18,8 @@
 namespace orvane::cloud {
 
 // One virtual device with the sessions that view and work it. Everything that takes time (drawing,
-// converting, encoding) runs on the host's strand of the worker pool; a device that nobody watches has no
-// timer and does nothing.
+// converting, encoding) runs on the host's strand of the worker pool, and only when a picture may go out; a
+// device that nobody watches has no picture and no timer and does nothing.
 //
 // Owned by GatewayFleet and by its own handlers. Viewers, picture and timer belong to the strand. The device
 // itself is guarded by m_deviceMutex, so that the HTTP API can read and change it from its own threads.
@@ -38,7 +39,8 @@ public:
         std::shared_ptr<SessionCounters> counters;
     };
 
-    DeviceHost(std::string padCode, const std::string &name, const Executor &executor);
+    // `screen`: the device's size in portrait, pixels.
+    DeviceHost(std::string padCode, const std::string &name, QSize screen, const Executor &executor);
 
     const std::string &padCode() const { return m_padCode; }
 
@@ -58,6 +60,7 @@ public:
     DeviceState state();
     void reboot();
     bool openApp(const std::string &app);
+    void setFilmRate(int picturesPerSecond); // 1 to 25
     bool rotate(int rotation); // 0 to 3
     void requestCamera(bool on);
     std::string appStateJson();
@@ -99,7 +102,7 @@ private:
     void update(FrameCause cause);
     void deliver(const DeviceEvent &event);
     void tellSensor(Viewer &viewer, const SensorEvent &event);
-    const YuvPicture &picture();
+    void releasePictures();
     void schedule(TimePoint now, std::optional<TimePoint> deviceTick);
     void postUpdate();
 
@@ -112,8 +115,8 @@ private:
 
     std::vector<std::unique_ptr<Entry>> m_entries; // strand
     std::vector<std::string> m_cameraSessions; // strand; asked to start the camera and not yet to stop
-    std::optional<YuvPicture> m_picture; // strand; none while nobody watches
-    QRect m_stale; // strand; part of m_picture that the screen has changed since
+    ScreenPictures m_pictures; // strand; snapshot() m_deviceMutex
+    std::uint64_t m_seenVersion = 0; // strand; of the device's picture, as the viewers know it
     boost::asio::steady_timer m_timer; // strand
     std::optional<TimePoint> m_timerAt; // strand; none = not running
 };

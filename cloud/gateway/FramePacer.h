@@ -13,7 +13,8 @@ enum class FrameCause {
 
 // Spaces the frames of one session. Animation keeps to the level's frame rate. A frame that shows the effect
 // of input goes at once: motion up to the rate of a fast screen, a press whatever was sent before, so that
-// what the user does is never held back; only presses far beyond what hands can do are slowed down. Pure
+// what the user does is never held back; only presses far beyond what hands can do are slowed down. A level
+// of very few frames is for looking on, not for operating: it keeps to its rate whatever the cause. Pure
 // logic, time is passed in; used by one thread at a time (Viewer).
 class FramePacer
 {

@@ -48,8 +48,8 @@ GatewayFleet::GatewayFleet(Options options, SessionStore &sessions)
     , m_port(m_options.port)
 {
     for (const Device &device : m_options.devices) {
-        m_devices[device.padCode]
-            = std::make_shared<DeviceHost>(device.padCode, device.name, m_workers.get_executor());
+        m_devices[device.padCode] = std::make_shared<DeviceHost>(
+            device.padCode, device.name, device.screen, m_workers.get_executor());
     }
 }
 
@@ -278,6 +278,15 @@ bool GatewayFleet::openApp(const std::string &padCode, const std::string &app)
 {
     DeviceHost *device = find(padCode);
     return device && device->openApp(app);
+}
+
+bool GatewayFleet::setFilmRate(const std::string &padCode, int picturesPerSecond)
+{
+    DeviceHost *device = find(padCode);
+    if (device) {
+        device->setFilmRate(picturesPerSecond);
+    }
+    return device != nullptr;
 }
 
 bool GatewayFleet::rotate(const std::string &padCode, int rotation)

@@ -9,6 +9,8 @@
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/thread_pool.hpp>
 
+#include <QSize>
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -30,6 +32,7 @@ public:
     {
         std::string padCode;
         std::string name;
+        QSize screen{720, 1280}; // in portrait, pixels, even
     };
 
     struct Options
@@ -63,6 +66,7 @@ public:
 
     std::vector<InputRecord> inputsSince(const std::string &padCode, std::uint64_t sequence) const override;
     bool openApp(const std::string &padCode, const std::string &app) override;
+    bool setFilmRate(const std::string &padCode, int picturesPerSecond) override;
     bool rotate(const std::string &padCode, int rotation) override;
     bool requestCamera(const std::string &padCode, bool on) override;
     std::string appStateJson(const std::string &padCode) const override;

@@ -73,7 +73,6 @@ void Viewer::setCastMode(CastMode mode)
     m_counters->castMode = static_cast<int>(mode);
     if (mode == CastMode::Paused) {
         m_encoder.reset(); // the next picture is a key frame then
-        m_scaled.reset();
     }
 }
 
@@ -108,6 +107,13 @@ void Viewer::screenChanged(FrameCause cause)
     m_changed = true;
     m_cause = std::max(m_cause, cause);
     m_refinements = 0;
+}
+
+std::optional<QSize> Viewer::pictureSize() const
+{
+    return isWatching() && m_announced
+        ? std::optional(QSize(m_announced->level.width, m_announced->level.height))
+        : std::nullopt;
 }
 
 void Viewer::resetAutomatic()
@@ -225,7 +231,7 @@ std::optional<TimePoint> Viewer::nextPump(TimePoint now) const
     return next;
 }
 
-H264Encoder::AccessUnit Viewer::encode(const YuvPicture &picture, bool refinement)
+H264Encoder::AccessUnit Viewer::encode(const PictureSource &source, bool refinement)
 {
     const Level &level = m_announced->level;
     if (!m_encoder) {
@@ -238,20 +244,12 @@ H264Encoder::AccessUnit Viewer::encode(const YuvPicture &picture, bool refinemen
     if (refinement) {
         request.quantizer = RefinementQuantizer;
     }
-    if (picture.width() == level.width && picture.height() == level.height) {
-        m_scaled.reset();
-        return m_encoder->encode(picture, request);
-    }
-    if (!m_scaled || m_scaled->width() != level.width || m_scaled->height() != level.height) {
-        m_scaled.emplace(level.width, level.height);
-    }
-    m_scaled->scaleFrom(picture);
-    return m_encoder->encode(*m_scaled, request);
+    return m_encoder->encode(source({level.width, level.height}), request);
 }
 
 void Viewer::sendFrame(TimePoint now, const PictureSource &source, bool refinement)
 {
-    H264Encoder::AccessUnit unit = encode(source(), refinement);
+    H264Encoder::AccessUnit unit = encode(source, refinement);
     const std::uint64_t id = ++m_lastFrameId;
     if (unit.keyFrame) {
         m_lastKeyFrameId = id;

@@ -9,6 +9,8 @@
 #include "gateway/SessionCounters.h"
 #include "gateway/YuvPicture.h"
 
+#include <QSize>
+
 #include <functional>
 #include <memory>
 #include <optional>
@@ -24,8 +26,8 @@ namespace orvane::cloud {
 class Viewer
 {
 public:
-    // Gives the device's present picture in its full size; called at most once per pump().
-    using PictureSource = std::function<const YuvPicture &()>;
+    // Gives the device's present picture in a size; called at most once per pump().
+    using PictureSource = std::function<const YuvPicture &(QSize)>;
 
     Viewer(
         std::string sessionId, std::shared_ptr<ClientLink> link, std::shared_ptr<SessionCounters> counters);
@@ -48,6 +50,8 @@ public:
 
     // Whether pictures are wanted at all.
     bool isWatching() const { return m_selection.castMode() != CastMode::Paused; }
+    // The size of the pictures that are wanted; none while paused.
+    std::optional<QSize> pictureSize() const;
     // The device's screen has a new picture.
     void screenChanged(FrameCause cause);
 
@@ -55,6 +59,11 @@ public:
     void pump(TimePoint now, const PictureSource &source);
     // When pump() is to be called again if nothing else happens; none = not needed.
     std::optional<TimePoint> nextPump(TimePoint now) const;
+    // The earliest time at which a picture that the device shows of its own accord may go out.
+    TimePoint nextAnimationTime(TimePoint now) const
+    {
+        return m_pacer.nextFrameTime(FrameCause::Animation, now);
+    }
 
 private:
     void resetAutomatic();
@@ -66,7 +75,7 @@ private:
     TimePoint refinementTime() const;
     bool evaluatesQuality() const;
     void sendFrame(TimePoint now, const PictureSource &source, bool refinement);
-    H264Encoder::AccessUnit encode(const YuvPicture &picture, bool refinement);
+    H264Encoder::AccessUnit encode(const PictureSource &source, bool refinement);
     void damageIfAsked(std::string &accessUnit);
 
     const std::string m_sessionId;
@@ -83,7 +92,6 @@ private:
     SendWindow m_window;
     FramePacer m_pacer;
     std::unique_ptr<H264Encoder> m_encoder; // none while paused and before the first picture
-    std::optional<YuvPicture> m_scaled; // none while the level has the screen's size
     std::uint64_t m_lastFrameId = 0;
     std::uint64_t m_lastKeyFrameId = 0;
     TimePoint m_lastKeyFrameAt{};

@@ -1,3 +1,4 @@
+#include "Resources.h"
 #include "Screens.h"
 #include "Service.h"
 #include "Waiting.h"
@@ -12,17 +13,12 @@
 #include "swplay/SWRuntime.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
-#include <QPixmapCache>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
 
-#include <malloc.h>
-#include <unistd.h>
-
+using e2e::Resources;
 using e2e::Service;
 using e2e::StepFailed;
 using e2e::waitUntil;
@@ -34,50 +30,6 @@ constexpr int turns = 10;
 constexpr QSize portraitContent(390, 640);
 constexpr QSize landscapeContent(650, 380);
 constexpr double samePicture = 0.02; // share of pixels that compression may change clearly
-
-// What the process holds at one moment.
-struct Resources
-{
-    int threads = 0;
-    int files = 0; // sockets among them
-    int sockets = 0;
-    qint64 residentKb = 0;
-    qint64 heapKb = 0; // in use
-
-    static Resources now();
-};
-
-Resources Resources::now()
-{
-    Resources resources;
-    // What is kept for later, within fixed limits, is not held.
-    QPixmapCache::clear();
-    malloc_trim(0);
-    resources.heapKb = static_cast<qint64>((mallinfo2().uordblks + mallinfo2().hblkhd) / 1024);
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        throw StepFailed(QStringLiteral("/proc/self/status cannot be read"));
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        const QByteArray value = line.mid(line.indexOf(':') + 1).simplified().split(' ').first();
-        if (line.startsWith("Threads:"))
-            resources.threads = value.toInt();
-        else if (line.startsWith("VmRSS:"))
-            resources.residentKb = value.toLongLong();
-    }
-    const QDir files(QStringLiteral("/proc/self/fd"));
-    const QStringList names = files.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
-    for (const QString &name : names) {
-        // The target of a socket is no path that Qt would follow.
-        QByteArray target(256, '\0');
-        const ssize_t length
-            = ::readlink(QFile::encodeName(files.filePath(name)).constData(), target.data(), target.size());
-        if (length < 0)
-            continue; // the listing's own
-        ++resources.files;
-        resources.sockets += target.startsWith("socket:");
-    }
-    return resources;
-}
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include "api/DemoData.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <boost/asio/ip/address.hpp>
@@ -54,6 +55,11 @@ void addOptions(QCommandLineParser &parser)
                 .arg(maxDeviceCount)
                 .arg(defaultDeviceCount),
             QStringLiteral("count")},
+        {QStringLiteral("screens"),
+            QStringLiteral("Sizes of the devices' screens in portrait, which the devices take in turn in the "
+                           "order of their ids (default 720x1280). Even numbers; 720 to 1440 wide, 16:9 or "
+                           "longer, at most 2560 high."),
+            QStringLiteral("WxH,..."), QStringLiteral("720x1280")},
         {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this text.")},
     });
 }
@@ -69,6 +75,29 @@ int numberOption(const QCommandLineParser &parser, const QString &name, int high
                              .arg(parser.value(name))
                              .toStdString());
     return number;
+}
+
+// What the apps of a device are made for, and what a picture of it may take.
+bool isScreen(QSize size)
+{
+    return size.width() >= 720 && size.width() <= 1440 && size.height() <= 2560 && size.width() % 2 == 0
+        && size.height() % 2 == 0 && size.height() * 9 >= size.width() * 16;
+}
+
+std::vector<QSize> screensOption(const QCommandLineParser &parser)
+{
+    std::vector<QSize> screens;
+    const QStringList texts = parser.value(QStringLiteral("screens")).split(QLatin1Char(','));
+    for (const QString &text : texts) {
+        static const QRegularExpression pattern(
+            QRegularExpression::anchoredPattern(QStringLiteral("(\\d{1,5})x(\\d{1,5})")));
+        const QRegularExpressionMatch match = pattern.match(text);
+        const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+        if (!match.hasMatch() || !isScreen(size))
+            throw UsageError(QStringLiteral("--screens has no screen \"%1\".").arg(text).toStdString());
+        screens.push_back(size);
+    }
+    return screens;
 }
 
 std::string addressOption(const QCommandLineParser &parser)
@@ -105,6 +134,7 @@ ServiceOptions ServiceOptions::parse(const QStringList &arguments)
         throw UsageError("--data must name a folder.");
     if (parser.isSet(QStringLiteral("devices")))
         options.deviceCount = numberOption(parser, QStringLiteral("devices"), maxDeviceCount);
+    options.screens = screensOption(parser);
     return options;
 }
 

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 
 #include <cstdint>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace orvane::cloud {
 
@@ -24,6 +26,7 @@ struct ServiceOptions
     std::uint16_t gatewayPort = 8181; // 0 = any free port
     std::string dataFolder;
     std::optional<int> deviceCount; // of the demo account; none = leave it as it is
+    std::vector<QSize> screens{{720, 1280}}; // in portrait, pixels; the devices take them in turn
     bool helpWanted = false;
 
     // `arguments` begin with the program's name. Throws UsageError.

@@ -31,8 +31,10 @@ GatewayFleet::Options fleetOptions(const ServiceOptions &options, const ServiceD
     GatewayFleet::Options fleet;
     fleet.listenAddress = options.listenAddress;
     fleet.port = options.gatewayPort;
-    for (const Device &device : data.devices.all())
-        fleet.devices.push_back({device.padCode, device.aliasName});
+    for (const Device &device : data.devices.all()) {
+        const QSize screen = options.screens[fleet.devices.size() % options.screens.size()];
+        fleet.devices.push_back({device.padCode, device.aliasName, screen});
+    }
     return fleet;
 }
 

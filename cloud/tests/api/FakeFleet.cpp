@@ -121,6 +121,13 @@ bool FakeFleet::openApp(const std::string &padCode, const std::string &app)
     return true;
 }
 
+bool FakeFleet::setFilmRate(const std::string &padCode, int picturesPerSecond)
+{
+    const std::lock_guard lock(m_mutex);
+    m_devices.at(padCode).filmRate = picturesPerSecond;
+    return true;
+}
+
 bool FakeFleet::rotate(const std::string &padCode, int rotation)
 {
     const std::lock_guard lock(m_mutex);

@@ -33,6 +33,7 @@ public:
         std::vector<InputRecord> inputs;
         int reboots = 0;
         int rotation = 0;
+        int filmRate = 25;
         bool camera = false;
     };
 
@@ -59,6 +60,7 @@ public:
     std::uint64_t screenVersion(const std::string &padCode) const override;
     std::vector<InputRecord> inputsSince(const std::string &padCode, std::uint64_t sequence) const override;
     bool openApp(const std::string &padCode, const std::string &app) override;
+    bool setFilmRate(const std::string &padCode, int picturesPerSecond) override;
     bool rotate(const std::string &padCode, int rotation) override;
     bool requestCamera(const std::string &padCode, bool on) override;
     std::string appStateJson(const std::string &padCode) const override;

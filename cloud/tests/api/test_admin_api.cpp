@@ -85,6 +85,19 @@ TEST_F(AdminApiTest, rotateAndCamera)
     EXPECT_FALSE(m_fleet->device("VM100001").camera);
 }
 
+TEST_F(AdminApiTest, filmSetsThePicturesASecond)
+{
+    const auto set = [this](const std::string &rate) {
+        return postText("/admin/devices/VM100001/film", R"({"pictures_per_second":)" + rate + "}").code();
+    };
+    EXPECT_EQ(set("5"), 200);
+    EXPECT_EQ(m_fleet->device("VM100001").filmRate, 5);
+    for (const char *rate : {"0", "26", "2.5", "\"5\"", "null"})
+        EXPECT_EQ(set(rate), 400) << rate;
+    EXPECT_EQ(m_fleet->device("VM100001").filmRate, 5);
+    EXPECT_EQ(postText("/admin/devices/VM777/film", R"({"pictures_per_second":5})").code(), 404);
+}
+
 TEST_F(AdminApiTest, expireEndsTheDevicesTimeAtOnce)
 {
     const Headers headers = signedIn();

@@ -251,6 +251,41 @@ TEST_F(DeviceApiTest, batchLeavesOutWhatCannotBeApplied)
     EXPECT_EQ(actOnMany(m_demo, {"100002", "777"}, "device_apply").code(), 404);
 }
 
+TEST_F(DeviceApiTest, aGroupOfThreeHundredIsAppliedForAndGivenBackInOneRequest)
+{
+    constexpr int count = 300;
+    std::vector<Device> devices;
+    std::vector<std::string> ids;
+    for (int i = 0; i < count; ++i) {
+        ids.push_back(std::to_string(500'000 + i));
+        devices.push_back({ids.back(), "VM" + ids.back(), "Phone", m_demoId, "month",
+            m_data->clocks.wall() + std::chrono::hours(1)});
+        m_fleet->setDevice(devices.back().padCode, {});
+    }
+    m_data->devices.add(devices);
+
+    const Reply reply = actOnMany(m_demo, ids, "device_apply");
+    ASSERT_EQ(reply.code(), 200);
+    ASSERT_EQ(reply.data().size(), count);
+    std::set<std::string> sessions;
+    for (const std::string &id : ids) {
+        const QJsonObject device = reply.data().value(QString::fromStdString(id)).toObject();
+        const std::string session = device.value("sessionId").toString().toStdString();
+        EXPECT_EQ(stateOf(session, "VM" + id, m_demoId), SessionState::Valid) << id;
+        sessions.insert(session);
+    }
+    EXPECT_EQ(sessions.size(), std::size_t{count});
+
+    const std::string other = apply(m_demo, "100001");
+    EXPECT_EQ(actOnMany(m_demo, ids, "device_unbind").code(), 200);
+    std::set<std::string> ended;
+    for (const FakeFleet::EndedSession &session : m_fleet->endedSessions())
+        ended.insert(session.sessionId);
+    EXPECT_EQ(ended, sessions);
+    EXPECT_EQ(stateOf(*sessions.begin(), "VM" + ids.front(), m_demoId), SessionState::Unknown);
+    EXPECT_EQ(stateOf(other, "VM100001", m_demoId), SessionState::Valid);
+}
+
 TEST_F(DeviceApiTest, batchRebootAndUnbind)
 {
     const std::string one = apply(m_demo, "100001");

@@ -134,19 +134,22 @@ TEST(ServiceOptionsTest, defaults)
     EXPECT_EQ(options.httpPort, 8180);
     EXPECT_EQ(options.gatewayPort, 8181);
     EXPECT_FALSE(options.deviceCount);
+    EXPECT_EQ(options.screens, (std::vector<QSize>{{720, 1280}}));
     EXPECT_FALSE(options.dataFolder.empty());
     EXPECT_FALSE(options.helpWanted);
 }
 
 TEST(ServiceOptionsTest, everythingCanBeChosen)
 {
-    const ServiceOptions options = ServiceOptions::parse(arguments({"--http-port", "0",
-        "--gateway-port=65535", "--data", "/tmp/x y", "--devices", "300", "--listen", "::1", "--help"}));
+    const ServiceOptions options
+        = ServiceOptions::parse(arguments({"--http-port", "0", "--gateway-port=65535", "--data", "/tmp/x y",
+            "--devices", "300", "--listen", "::1", "--screens", "720x1280,1080x1920,720x1600", "--help"}));
     EXPECT_EQ(options.listenAddress, "::1");
     EXPECT_EQ(options.httpPort, 0);
     EXPECT_EQ(options.gatewayPort, 65535);
     EXPECT_EQ(options.dataFolder, "/tmp/x y");
     EXPECT_EQ(options.deviceCount, 300);
+    EXPECT_EQ(options.screens, (std::vector<QSize>{{720, 1280}, {1080, 1920}, {720, 1600}}));
     EXPECT_TRUE(options.helpWanted);
 }
 
@@ -154,7 +157,10 @@ TEST(ServiceOptionsTest, nonsenseIsRefused)
 {
     const QStringList wrong[] = {{"--http-port", "65536"}, {"--http-port", "-1"}, {"--gateway-port", "x"},
         {"--devices", "1001"}, {"--devices", ""}, {"--listen", "0.0.0.0"}, {"--listen", "localhost"},
-        {"--data", ""}, {"--http-port"}, {"--unknown"}, {"stray"}};
+        {"--data", ""}, {"--screens", ""}, {"--screens", "720x1280,"}, {"--screens", "719x1280"},
+        {"--screens", "721x1400"}, {"--screens", "720x1278"}, {"--screens", "1442x2564"},
+        {"--screens", "720x2562"}, {"--screens", "720*1280"}, {"--screens", "99999999999x1280"},
+        {"--http-port"}, {"--unknown"}, {"stray"}};
     for (const QStringList &options : wrong)
         EXPECT_THROW(ServiceOptions::parse(arguments(options)), UsageError)
             << options.join(' ').toStdString();

@@ -296,6 +296,21 @@ TEST_F(AppsTest, wheelGesturesScrollOneAfterTheOther)
     }
 }
 
+TEST_F(AppsTest, theFilmKeepsItsSpeedWhateverItsRate)
+{
+    const std::pair<int, int> ratesAndTicks[] = {{5, 10}, {25, 50}, {1, 2}, {12, 25}};
+    for (const auto &[rate, expectedTicks] : ratesAndTicks) {
+        device.setFilmRate(rate); // before it is opened, and while it plays
+        device.openApp("Video");
+        pass(0ms);
+        ticks = 0;
+        const int first = number("frame");
+        pass(2s);
+        EXPECT_EQ(number("frame"), first + 50) << rate;
+        EXPECT_EQ(ticks, expectedTicks) << rate;
+    }
+}
+
 TEST_F(AppsTest, videoPlaysAt25FramesPerSecondWhileInFront)
 {
     EXPECT_FALSE(device.nextTick());

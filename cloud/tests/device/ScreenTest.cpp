@@ -6,6 +6,7 @@
 
 #include <linux/input-event-codes.h>
 
+#include <cstdlib>
 #include <random>
 
 namespace orvane::cloud {
@@ -57,7 +58,7 @@ TEST_F(ScreenTest, firstPictureIsWhole)
     VirtualDevice fresh("VM1", "Fresh");
     EXPECT_EQ(fresh.takeDirty(), QRect(0, 0, 720, 1280));
     EXPECT_TRUE(fresh.takeDirty().isEmpty());
-    EXPECT_EQ(fresh.frame().size(), VirtualDevice::screenSize());
+    EXPECT_EQ(fresh.frame().size(), fresh.screenSize());
     EXPECT_EQ(fresh.frame().format(), QImage::Format_RGB32);
 }
 
@@ -259,6 +260,88 @@ TEST_F(ScreenTest, statusBarFollowsTheClockWhenTheDeviceIsAwake)
     now += 10s;
     tap(360, 500);
     EXPECT_TRUE(checkedDirty("same minute").isEmpty());
+}
+
+// Mean difference of the colours, 0 to 255.
+double meanDifference(const QImage &one, const QImage &other)
+{
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            const QRgb a = one.pixel(x, y);
+            const QRgb b = other.pixel(x, y);
+            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b))
+                + std::abs(qBlue(a) - qBlue(b));
+        }
+    }
+    return sum / 3 / one.width() / one.height();
+}
+
+TEST_F(ScreenTest, drawnSmallItIsTheSamePicture)
+{
+    for (const int rotation : {0, 1, 2}) {
+        device.setRotation(rotation);
+        for (const char *name : {"Home", "Notes", "List", "Video", "Settings"}) {
+            device.openApp(name);
+            pass(100ms);
+            QImage small(144, 218, QImage::Format_RGB32);
+            device.drawScaled(small);
+            const QImage whole
+                = device.frame().scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            EXPECT_LT(meanDifference(small, whole), 8) << name << " turned by " << rotation;
+        }
+    }
+}
+
+TEST_F(ScreenTest, drawingSmallTakesNothingFromTheScreen)
+{
+    device.takeDirty();
+    device.openApp("Notes");
+    const auto version = device.pictureVersion();
+    QImage small(144, 218, QImage::Format_RGB32);
+    device.drawScaled(small);
+    EXPECT_EQ(device.pictureVersion(), version);
+    EXPECT_EQ(device.takeDirty(), QRect(0, 0, 720, 1280));
+}
+
+TEST_F(ScreenTest, aReleasedFrameIsDrawnAnew)
+{
+    for (const int rotation : {0, 1}) {
+        device.setRotation(rotation);
+        device.openApp("List");
+        const QImage before = device.frame().copy();
+        device.takeDirty();
+        const auto version = device.pictureVersion();
+        device.releaseFrame();
+        EXPECT_EQ(device.pictureVersion(), version);
+        EXPECT_EQ(device.takeDirty(), QRect(0, 0, 720, 1280));
+        EXPECT_EQ(device.frame(), before);
+    }
+}
+
+TEST_F(ScreenTest, otherScreensAreDrawnAndTouchedToTheirEdges)
+{
+    for (const QSize size : {QSize(1080, 1920), QSize(720, 1600)}) {
+        VirtualDevice other(
+            "VM2", "Other", [this] { return wallTime; }, size);
+        EXPECT_EQ(other.screenSize(), size);
+        EXPECT_EQ(other.takeDirty(), QRect({}, size));
+        EXPECT_EQ(other.frame().size(), size);
+        other.setRotation(1);
+        other.openApp("Video");
+        EXPECT_EQ(other.takeDirty(), QRect({}, size));
+        other.setRotation(0);
+        other.openApp("Paint");
+        const int x = size.width() - 1;
+        const int y = size.height() / 2;
+        other.touch("one", Down, {{x, y, 1}}, now);
+        const auto inputs = other.inputsSince(0);
+        ASSERT_EQ(inputs.size(), 1U);
+        EXPECT_NE(
+            inputs[0].json.find("[[" + std::to_string(x) + "," + std::to_string(y) + "]]"), std::string::npos)
+            << inputs[0].json;
+        EXPECT_NE(other.appStateJson().find("\"fingers\":1"), std::string::npos);
+    }
 }
 
 TEST_F(ScreenTest, unchangedVersionMeansUnchangedPicture)

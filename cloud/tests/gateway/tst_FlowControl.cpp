@@ -295,13 +295,24 @@ TEST(FramePacer, FollowsAnAnimationOfTheSameRateWithoutDroppingFrames)
 TEST(FramePacer, DoesNotHoldBackWhatInputCaused)
 {
     FramePacer pacer;
-    pacer.setFrameRate(5);
+    pacer.setFrameRate(10);
     pacer.frameSent(FrameCause::Animation, Start);
-    EXPECT_GT(pacer.nextFrameTime(FrameCause::Animation, Start + 1ms), Start + 90ms);
+    EXPECT_GT(pacer.nextFrameTime(FrameCause::Animation, Start + 1ms), Start + 40ms);
     EXPECT_EQ(pacer.nextFrameTime(FrameCause::Motion, Start + 1ms), Start + 1ms);
     EXPECT_EQ(pacer.nextFrameTime(FrameCause::Press, Start + 1ms), Start + 1ms);
     pacer.frameSent(FrameCause::Motion, Start + 1ms);
     EXPECT_LE(pacer.nextFrameTime(FrameCause::Motion, Start + 5ms), Start + 20ms);
+}
+
+TEST(FramePacer, ALevelToLookOnKeepsToItsRateWhateverTheInput)
+{
+    FramePacer pacer;
+    pacer.setFrameRate(5);
+    pacer.frameSent(FrameCause::Press, Start);
+    for (const FrameCause cause : {FrameCause::Animation, FrameCause::Motion, FrameCause::Press}) {
+        EXPECT_EQ(pacer.nextFrameTime(cause, Start + 1ms), Start + 100ms); // half an interval may be made up
+        EXPECT_EQ(pacer.nextFrameTime(cause, Start + 150ms), Start + 150ms);
+    }
 }
 
 TEST(FramePacer, MotionAtAThousandPerSecondGivesSixtyFrames)

@@ -75,7 +75,14 @@ protected:
     }
     void pump()
     {
-        viewer.pump(now, [this]() -> const YuvPicture & { return picture; });
+        viewer.pump(now, [this](QSize size) -> const YuvPicture & {
+            if (size == QSize(picture.width(), picture.height())) {
+                return picture;
+            }
+            scaled = YuvPicture(size.width(), size.height());
+            scaled.scaleFrom(picture);
+            return scaled;
+        });
     }
     void change(FrameCause cause = FrameCause::Animation)
     {
@@ -101,6 +108,7 @@ protected:
     std::shared_ptr<SessionCounters> counters = std::make_shared<SessionCounters>();
     Viewer viewer{"session", link, counters};
     YuvPicture picture{720, 1280};
+    YuvPicture scaled{2, 2};
 };
 
 } // namespace

@@ -11,9 +11,10 @@
 
 namespace e2e {
 
-Service::Service(const QString &program, int devices)
+Service::Service(const QString &program, int devices, const QStringList &options)
     : m_program(program)
     , m_devices(devices)
+    , m_options(options)
 {
     m_process.setProgram(program);
     QObject::connect(&m_process, &QProcess::readyReadStandardError, &m_process,
@@ -31,9 +32,11 @@ Service::~Service()
 
 void Service::start()
 {
-    m_process.setArguments({QStringLiteral("--http-port"), QString::number(m_httpPort),
-        QStringLiteral("--gateway-port"), QString::number(m_gatewayPort), QStringLiteral("--data"),
-        m_data.path(), QStringLiteral("--devices"), QString::number(m_devices)});
+    m_process.setArguments(
+        QStringList{QStringLiteral("--http-port"), QString::number(m_httpPort),
+            QStringLiteral("--gateway-port"), QString::number(m_gatewayPort), QStringLiteral("--data"),
+            m_data.path(), QStringLiteral("--devices"), QString::number(m_devices)}
+        + m_options);
     m_process.start();
     waitUntil(
         QStringLiteral("%1 reports that it is ready").arg(m_program),
@@ -96,12 +99,26 @@ QJsonObject Service::signIn()
         .toObject();
 }
 
+QJsonArray Service::devices() const
+{
+    return admin(QStringLiteral("GET"), QStringLiteral("/admin/devices"))
+        .value(QLatin1String("devices"))
+        .toArray();
+}
+
+QJsonArray Service::inputRecords(const QString &pad, qint64 since) const
+{
+    return admin(
+        QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/input?since=%2").arg(pad).arg(since))
+        .value(QLatin1String("events"))
+        .toArray();
+}
+
 QJsonArray Service::inputEvents(const QString &pad, qint64 since) const
 {
     QJsonArray events;
-    const QJsonObject data = admin(
-        QStringLiteral("GET"), QStringLiteral("/admin/devices/%1/input?since=%2").arg(pad).arg(since));
-    for (const QJsonValue &entry : data.value(QLatin1String("events")).toArray())
+    const QJsonArray records = inputRecords(pad, since);
+    for (const QJsonValue &entry : records)
         events.append(entry.toObject().value(QLatin1String("event")));
     return events;
 }
@@ -121,6 +138,12 @@ void Service::rotate(const QString &pad, int rotation) const
 {
     admin(QStringLiteral("POST"), QStringLiteral("/admin/devices/%1/rotate").arg(pad),
         {{QStringLiteral("rotation"), rotation}});
+}
+
+void Service::setFilmRate(const QString &pad, int picturesPerSecond) const
+{
+    admin(QStringLiteral("POST"), QStringLiteral("/admin/devices/%1/film").arg(pad),
+        {{QStringLiteral("pictures_per_second"), picturesPerSecond}});
 }
 
 QJsonObject Service::sessionStats(const QString &pad) const

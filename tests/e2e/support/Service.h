@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 
 namespace e2e {
@@ -14,8 +15,8 @@ namespace e2e {
 class Service
 {
 public:
-    // `program`: path of orvane-cloud.
-    explicit Service(const QString &program, int devices = 12);
+    // `program`: path of orvane-cloud; `options`: more of its command line.
+    explicit Service(const QString &program, int devices = 12, const QStringList &options = {});
     ~Service();
 
     // Starts it and waits until it is ready. Throws StepFailed.
@@ -23,6 +24,7 @@ public:
     // Ends it without a chance to say goodbye.
     void kill();
     bool isRunning() const { return m_process.state() == QProcess::Running; }
+    qint64 pid() const { return m_process.processId(); }
 
     QString apiBaseUrl() const { return m_apiBaseUrl; }
     quint16 gatewayPort() const { return m_gatewayPort; }
@@ -34,12 +36,18 @@ public:
     // One call under /admin/; returns "data". Throws StepFailed unless the code is 200.
     QJsonObject admin(const QString &method, const QString &path, const QJsonObject &body = {}) const;
 
-    // What a device received after a sequence number, oldest first: the "event" objects.
+    // Every device, by service id: objects with "pad_code", "service_id", "alias_name", …
+    QJsonArray devices() const;
+    // What a device received after a sequence number, oldest first, each with "sequence" and "time_us".
+    QJsonArray inputRecords(const QString &pad, qint64 since = 0) const;
+    // The same without them: the "event" objects.
     QJsonArray inputEvents(const QString &pad, qint64 since = 0) const;
     QJsonObject appState(const QString &pad) const;
     // The device's screen as its panel shows it, 720 x 1280 however it is turned.
     QImage screen(const QString &pad) const;
     void openApp(const QString &pad, const QString &app) const;
+    // How many pictures a second the device's Video app shows, 1 to 25.
+    void setFilmRate(const QString &pad, int picturesPerSecond) const;
     // Turns the device's screen; in quarter turns, 0 to 3.
     void rotate(const QString &pad, int rotation) const;
     // What GET /admin/stats tells of the connected session with a device; empty while there is none.
@@ -53,6 +61,7 @@ private:
 
     QString m_program;
     int m_devices;
+    QStringList m_options;
     QTemporaryDir m_data;
     QProcess m_process;
     QString m_apiBaseUrl;

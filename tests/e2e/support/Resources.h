@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QtGlobal>
+
+namespace e2e {
+
+// What this process holds at one moment. Plain value.
+struct Resources
+{
+    int threads = 0;
+    int files = 0; // sockets among them
+    int sockets = 0;
+    qint64 residentKb = 0;
+    qint64 heapKb = 0; // in use
+
+    // Gives back what is only kept for later first. Throws StepFailed when the system does not tell.
+    static Resources now();
+};
+
+} // namespace e2e
