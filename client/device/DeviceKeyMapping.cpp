@@ -58,8 +58,7 @@ DeviceKeyMapping::~DeviceKeyMapping()
         m_guide->close();
 }
 
-// ---- Keys
-// -----------------------------------------------------------------------------------------------------
+// ---- Keys ----
 
 template <typename Key>
 OvAuxiliaryKey *DeviceKeyMapping::makeKey()
@@ -123,8 +122,7 @@ void DeviceKeyMapping::liftFingers()
     m_manager->liftFingers();
 }
 
-// ---- Editing
-// --------------------------------------------------------------------------------------------------
+// ---- Editing ----
 
 bool DeviceKeyMapping::isEditing() const
 {
@@ -220,8 +218,7 @@ void DeviceKeyMapping::abandon()
     m_manager->keepLocalCopy(scheme);
 }
 
-// ---- The local copy
-// -------------------------------------------------------------------------------------------
+// ---- The local copy ----
 
 // A local copy that is not the last save of this window may be of another scheme than the current one, which
 // must not be saved with these keys.
@@ -259,8 +256,7 @@ void DeviceKeyMapping::setKeysShown(bool shown)
         key->setNoteFlag(shown);
 }
 
-// ---- Windows
-// --------------------------------------------------------------------------------------------------
+// ---- Windows ----
 
 void DeviceKeyMapping::openGuide()
 {

@@ -159,8 +159,7 @@ bool SingleController::takesInput() const
     return showsVideo() && !isStandingBy() && !m_keyMapping->isEditing();
 }
 
-// ---- Applying for the device
-// ----------------------------------------------------------------------------------
+// ---- Applying for the device ----
 
 void SingleController::applyDevice()
 {
@@ -217,8 +216,7 @@ void SingleController::showToast(const QString &text)
     m_toast->show(text, Look::ToastSeconds);
 }
 
-// ---- Keyboard and clipboard
-// -----------------------------------------------------------------------------------
+// ---- Keyboard and clipboard ----
 
 void SingleController::keyPressEvent(QKeyEvent *event)
 {
@@ -285,8 +283,7 @@ void SingleController::onPasteText()
     m_stream->onInputEvent(text);
 }
 
-// ---- Stream
-// ---------------------------------------------------------------------------------------------------
+// ---- Stream ----
 
 void SingleController::onPlayInfo(const char *info)
 {
@@ -301,8 +298,7 @@ void SingleController::applyQuality()
         m_stream->onVideoLevelChanged(m_title->qualityBox()->currentIndex());
 }
 
-// ---- Stand-by
-// -------------------------------------------------------------------------------------------------
+// ---- Stand-by ----
 
 void SingleController::setStandbyTime(int minutes)
 {
@@ -363,8 +359,7 @@ void SingleController::onExitBtnClicked()
     closeByUser();
 }
 
-// ---- Shape
-// ----------------------------------------------------------------------------------------------------
+// ---- Shape ----
 
 void SingleController::onScreenRotateBtnClicked()
 {
@@ -401,8 +396,7 @@ void SingleController::resizeEvent(QResizeEvent *event)
     showTitle();
 }
 
-// ---- Key mapping
-// ----------------------------------------------------------------------------------------------
+// ---- Key mapping ----
 
 void SingleController::connectKeyMapping()
 {
@@ -557,8 +551,7 @@ void SingleController::onCreateAuxiliaryWalkingKey()
     m_keyMapping->createKey(keymap::WalkingKey);
 }
 
-// ---- End
-// ------------------------------------------------------------------------------------------------------
+// ---- End ----
 
 // A close by the window manager means the same to the owner as the close button.
 void SingleController::closeEvent(QCloseEvent *event)

@@ -9,6 +9,7 @@ namespace {
 namespace Look {
 constexpr int IconExtent = 16;
 constexpr int ButtonHeight = 36;
+constexpr qreal LetterSpacing = 96; // percent; so that the English texts fit beside each other
 constexpr int LeastWidth = 28; // to be hit by the mouse
 constexpr int IconTop = 3; // above a text
 constexpr int CornerRadius = 4;
@@ -36,6 +37,7 @@ QFont FunctionButton::textFont(int pixels) const
 {
     QFont result = font();
     result.setPixelSize(pixels);
+    result.setLetterSpacing(QFont::PercentageSpacing, Look::LetterSpacing);
     return result;
 }
 

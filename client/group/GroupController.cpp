@@ -167,8 +167,7 @@ void GroupController::connectPanels()
     connect(m_saveButton, &QToolButton::clicked, this, &GroupController::onSaveGroupBtnClicked);
 }
 
-// ---- Requests
-// -------------------------------------------------------------------------------------------------
+// ---- Requests ----
 
 // A refusal by the service and a failure on the way to it are the same to all callers.
 void GroupController::post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
@@ -249,8 +248,7 @@ void GroupController::onRemoveController(const QString &serviceId)
         [](const QString &message) { qWarning().noquote() << "unbind devices failed!" << message; });
 }
 
-// ---- Master and tiles
-// -----------------------------------------------------------------------------------------
+// ---- Master and tiles ----
 
 // Keys that are held are down on devices that are about to change places.
 void GroupController::onSetAsMainController(SubController *controller)
@@ -322,8 +320,7 @@ void GroupController::reassignMaster(const QString &expiredId)
         emit expired->removeController(true);
 }
 
-// ---- Input
-// ----------------------------------------------------------------------------------------------------
+// ---- Input ----
 
 void GroupController::keyPressEvent(QKeyEvent *event)
 {
@@ -385,8 +382,7 @@ bool GroupController::eventFilter(QObject *watched, QEvent *event)
     return GroupWindow::eventFilter(watched, event);
 }
 
-// ---- Dialogs and messages
-// -------------------------------------------------------------------------------------
+// ---- Dialogs and messages ----
 
 void GroupController::onSaveGroupBtnClicked()
 {
@@ -416,8 +412,7 @@ void GroupController::showToast(const QString &text)
     m_toast->show(text, Look::ToastSeconds);
 }
 
-// ---- Look
-// -----------------------------------------------------------------------------------------------------
+// ---- Look ----
 
 void GroupController::setGroupName(const QString &name)
 {

@@ -103,8 +103,7 @@ void MainController::connectStream()
     connect(m_bar, &FunctionBar::restartBtnClicked, this, &MainController::restartBtnClicked);
 }
 
-// ---- The device
-// -----------------------------------------------------------------------------------------------
+// ---- The device ----
 
 // A finger that is down belongs to the device before, and so do the picture and its turn.
 void MainController::setDevice(const group::GroupDevice &device)
@@ -179,8 +178,7 @@ void MainController::onKeyReleaseEvent(int key)
     m_stream->onKeyReleaseEvent(key);
 }
 
-// ---- Layout
-// ---------------------------------------------------------------------------------------------------
+// ---- Layout ----
 
 void MainController::onScreenRotation(ScreenOrientation orientation)
 {

@@ -92,8 +92,7 @@ void SubControlPage::setClock(Clock clock)
     m_clock = std::move(clock);
 }
 
-// ---- Devices
-// --------------------------------------------------------------------------------------------------
+// ---- Devices ----
 
 void SubControlPage::setDevices(const QList<group::GroupDevice> &devices)
 {
@@ -161,8 +160,7 @@ void SubControlPage::restartDevice(const QString &serviceId)
         tile->restartStream();
 }
 
-// ---- The tiles' menus
-// -----------------------------------------------------------------------------------------
+// ---- The tiles' menus ----
 
 void SubControlPage::onSetAsMainController()
 {
@@ -247,8 +245,7 @@ HttpHelper &SubControlPage::httpHelper()
     return *m_httpHelper;
 }
 
-// ---- Input
-// ----------------------------------------------------------------------------------------------------
+// ---- Input ----
 
 void SubControlPage::onSubControlTouchEvent(int action, float percentX, float percentY)
 {
@@ -282,8 +279,7 @@ void SubControlPage::addEvent(const group::InputEvent &event)
         m_batchThread->addEvent(event);
 }
 
-// ---- Pages
-// ----------------------------------------------------------------------------------------------------
+// ---- Pages ----
 
 int SubControlPage::pagesFor(int tiles)
 {
@@ -381,8 +377,7 @@ void SubControlPage::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
-// ---- Page bar
-// -------------------------------------------------------------------------------------------------
+// ---- Page bar ----
 
 void SubControlPage::createBar()
 {

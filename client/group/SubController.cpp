@@ -117,8 +117,7 @@ void SubController::showPicture()
     m_infoLabel->hide();
 }
 
-// ---- Texts
-// ----------------------------------------------------------------------------------------------------
+// ---- Texts ----
 
 void SubController::showRemainingTime(const QDateTime &now)
 {
@@ -156,8 +155,7 @@ void SubController::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
-// ---- Layout
-// ---------------------------------------------------------------------------------------------------
+// ---- Layout ----
 
 void SubController::onResizeSubController(const QSize &size)
 {
@@ -186,8 +184,7 @@ void SubController::placeParts()
         m_menu->setGeometry(rect());
 }
 
-// ---- Menu
-// -----------------------------------------------------------------------------------------------------
+// ---- Menu ----
 
 void SubController::showMenu()
 {
@@ -245,8 +242,7 @@ void SubController::hideEvent(QHideEvent *event)
     QWidget::hideEvent(event);
 }
 
-// ---- Input
-// ----------------------------------------------------------------------------------------------------
+// ---- Input ----
 
 void SubController::onSubControlTouchEvent(int action, float percentX, float percentY)
 {

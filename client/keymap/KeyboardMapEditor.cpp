@@ -133,8 +133,7 @@ KeyboardMapEditor::KeyboardMapEditor(KeyboardMapMgr *manager, QWidget *parent)
 
 KeyboardMapEditor::~KeyboardMapEditor() = default;
 
-// ---- What it is made of
-// ---------------------------------------------------------------------------------------
+// ---- What it is made of ----
 
 void KeyboardMapEditor::createWidgets()
 {
@@ -279,8 +278,7 @@ void KeyboardMapEditor::resizeEvent(QResizeEvent *event)
     QWidget::resizeEvent(event);
 }
 
-// ---- The schemes
-// ----------------------------------------------------------------------------------------------
+// ---- The schemes ----
 
 // What is not saved yet stays, and so does a name that is being typed.
 void KeyboardMapEditor::onRefreshConfigSuccess()
@@ -460,8 +458,7 @@ void KeyboardMapEditor::placeKey(
         key->placeAt(position);
 }
 
-// ---- What the user does
-// ---------------------------------------------------------------------------------------
+// ---- What the user does ----
 
 void KeyboardMapEditor::onResetBtnClicked()
 {

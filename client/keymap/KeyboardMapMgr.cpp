@@ -76,8 +76,7 @@ KeyboardMapMgr::KeyboardMapMgr(QWidget *parent)
 
 KeyboardMapMgr::~KeyboardMapMgr() = default;
 
-// ---- State
-// ----------------------------------------------------------------------------------------------------
+// ---- State ----
 
 void KeyboardMapMgr::setRecording(bool isRecording)
 {
@@ -117,8 +116,7 @@ void KeyboardMapMgr::onShowNoteCheckBoxStateChanged(int state)
     setShowKeyNotes(state != Qt::Unchecked);
 }
 
-// ---- Keys
-// -----------------------------------------------------------------------------------------------------
+// ---- Keys ----
 
 void KeyboardMapMgr::addAuxiliaryKey(int type, OvAuxiliaryKey *key)
 {
@@ -231,8 +229,7 @@ void KeyboardMapMgr::clearKeys()
     qDeleteAll(all);
 }
 
-// ---- Fingers
-// --------------------------------------------------------------------------------------------------
+// ---- Fingers ----
 
 void KeyboardMapMgr::liftFingers()
 {
@@ -263,8 +260,7 @@ void KeyboardMapMgr::collectTouchPoints(QVector<int> &xs, QVector<int> &ys, QSiz
     append(m_walkingKey);
 }
 
-// ---- Schemes
-// --------------------------------------------------------------------------------------------------
+// ---- Schemes ----
 
 QString KeyboardMapMgr::keysToJson() const
 {
@@ -316,8 +312,7 @@ void KeyboardMapMgr::onComboBoxItemChanged(int index)
     m_currentMapId.clear();
 }
 
-// ---- The service
-// ----------------------------------------------------------------------------------------------
+// ---- The service ----
 
 HttpHelper *KeyboardMapMgr::httpHelper()
 {

@@ -137,8 +137,7 @@ void OvAuxiliaryKey::markModified()
         m_manager->setModified(true);
 }
 
-// ---- The finger
-// -----------------------------------------------------------------------------------------------
+// ---- The finger ----
 
 QPointF OvAuxiliaryKey::touchPoint(QSize deviceSize)
 {
@@ -221,8 +220,7 @@ bool OvAuxiliaryKey::isBoundTo(const QKeyEvent &event) const
     return isBound() && keyName(event.key()) == keyText();
 }
 
-// ---- Look
-// -----------------------------------------------------------------------------------------------------
+// ---- Look ----
 
 bool OvAuxiliaryKey::isSeen() const
 {
@@ -306,8 +304,7 @@ void OvAuxiliaryKey::paintEvent(QPaintEvent *)
     painter.drawPixmap(rect(), m_picture);
 }
 
-// ---- Place
-// ----------------------------------------------------------------------------------------------------
+// ---- Place ----
 
 void OvAuxiliaryKey::storeSpot()
 {
@@ -397,8 +394,7 @@ void OvAuxiliaryKey::resizeEvent(QResizeEvent *event)
     placeAttachments();
 }
 
-// ---- Editing
-// --------------------------------------------------------------------------------------------------
+// ---- Editing ----
 
 bool OvAuxiliaryKey::isRecording() const
 {
@@ -513,8 +509,7 @@ void OvAuxiliaryKey::mouseReleaseEvent(QMouseEvent *event)
     markModified();
 }
 
-// ---- Note
-// -----------------------------------------------------------------------------------------------------
+// ---- Note ----
 
 void OvAuxiliaryKey::setNoteFlag(bool isSet)
 {

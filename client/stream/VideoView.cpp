@@ -100,8 +100,7 @@ void VideoView::setClock(MonotonicClock clock)
     m_clock = std::move(clock);
 }
 
-// ---- Pictures
-// -------------------------------------------------------------------------------------------------
+// ---- Pictures ----
 
 void VideoView::onFrameArrival()
 {
@@ -263,8 +262,7 @@ void VideoView::savePicture(const QImage &picture, const QString &fileName)
     box->open();
 }
 
-// ---- Touches
-// --------------------------------------------------------------------------------------------------
+// ---- Touches ----
 
 void VideoView::setPosition(const QPointF &position)
 {
@@ -389,8 +387,7 @@ void VideoView::onRecordingStatusChanged(bool isRecording)
     m_inputDisabled = isRecording;
 }
 
-// ---- Wheel
-// ----------------------------------------------------------------------------------------------------
+// ---- Wheel ----
 
 void VideoView::wheelEvent(QWheelEvent *event)
 {
@@ -440,8 +437,7 @@ void VideoView::stepGesture()
         m_gestureTimer->stop();
 }
 
-// ---- Keys and text
-// --------------------------------------------------------------------------------------------
+// ---- Keys and text ----
 
 void VideoView::keyPressEvent(QKeyEvent *event)
 {

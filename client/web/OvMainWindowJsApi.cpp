@@ -88,8 +88,7 @@ void OvMainWindowJsApi::runInPage(const QString &script)
         webView()->page()->runJavaScript(script);
 }
 
-// ---- The session's identity
-// -----------------------------------------------------------------------------------
+// ---- The session's identity ----
 
 void OvMainWindowJsApi::setLoginParams(const Context &context)
 {
@@ -134,8 +133,7 @@ void OvMainWindowJsApi::logout(const Context &)
     emit sigLogout();
 }
 
-// ---- Windows of single devices
-// --------------------------------------------------------------------------------
+// ---- Windows of single devices ----
 
 void OvMainWindowJsApi::openSingleControlWnd(const Context &context)
 {
@@ -231,8 +229,7 @@ void OvMainWindowJsApi::unbindDevice(const QString &serviceId)
         QString::fromUtf8(QJsonDocument(body).toJson()), nullptr, nullptr);
 }
 
-// ---- The group window
-// -----------------------------------------------------------------------------------------
+// ---- The group window ----
 
 GroupWindow *OvMainWindowJsApi::groupWindow() const
 {
@@ -297,8 +294,7 @@ void OvMainWindowJsApi::deviceExpiration(const Context &context)
             params.stringValue(QStringLiteral("device_id")));
 }
 
-// ---- Updates
-// ------------------------------------------------------------------------------------------------
+// ---- Updates ----
 
 void OvMainWindowJsApi::updateNewVersion(const Context &context)
 {

@@ -171,8 +171,7 @@ void TestKeymapRandom::cleanup()
     m_window.reset();
 }
 
-// ---- Events
-// ---------------------------------------------------------------------------------------------------
+// ---- Events ----
 
 const QVector<TestKeymapRandom::Event> &TestKeymapRandom::events()
 {
@@ -504,8 +503,7 @@ void TestKeymapRandom::closeAndOpen()
     waitUntil(QStringLiteral("the video after opening again"), [this] { return m_view->isVisible(); });
 }
 
-// ---- Checks
-// ---------------------------------------------------------------------------------------------------
+// ---- Checks ----
 
 // Something that takes the keyboard away.
 void TestKeymapRandom::loseKeyboard()

@@ -94,8 +94,7 @@ void tst_SubController::cleanup()
     m_window.reset();
 }
 
-// ---- Session
-// --------------------------------------------------------------------------------------------------
+// ---- Session ----
 
 void tst_SubController::connectsPausedUnlessLive()
 {
@@ -172,8 +171,7 @@ void tst_SubController::anotherDeviceTakesOver()
     QCOMPARE(m_tile->grab().toImage().pixelColor(80, 100), QColor(Qt::blue));
 }
 
-// ---- Input
-// ----------------------------------------------------------------------------------------------------
+// ---- Input ----
 
 void tst_SubController::ignoresInputWithoutSession()
 {
@@ -238,8 +236,7 @@ void tst_SubController::passesKeysAndText()
         (QStringList{keyCall(3, 172), keyCall(1, 30), keyCall(2, 30), textCall(QStringLiteral("hello"))}));
 }
 
-// ---- Texts
-// ----------------------------------------------------------------------------------------------------
+// ---- Texts ----
 
 void tst_SubController::remainingTime_data()
 {
@@ -311,8 +308,7 @@ void tst_SubController::longNamesAreCut()
     QCOMPARE(m_tile->size(), TileSize);
 }
 
-// ---- Layout
-// ---------------------------------------------------------------------------------------------------
+// ---- Layout ----
 
 void tst_SubController::laysItsPartsOut()
 {
@@ -342,8 +338,7 @@ void tst_SubController::takesPicturesOfItsOwnSize()
     QCOMPARE(takeCalls(), QStringList{format.arg(larger.width()).arg(larger.height())});
 }
 
-// ---- Menu
-// -----------------------------------------------------------------------------------------------------
+// ---- Menu ----
 
 void tst_SubController::menuComesWithThePointer()
 {

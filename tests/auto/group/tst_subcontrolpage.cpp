@@ -175,8 +175,7 @@ RemoveDeviceDialog *tst_SubControlPage::dialog() const
     return m_window->findChild<RemoveDeviceDialog *>();
 }
 
-// ---- Grid
-// -----------------------------------------------------------------------------------------------------
+// ---- Grid ----
 
 void tst_SubControlPage::measures()
 {
@@ -245,8 +244,7 @@ void tst_SubControlPage::scrollBarTakesNoRoom()
     QCOMPARE(m_page->controllerAt(3)->mapTo(m_page, QPoint(0, 0)).x() + 171, 15 + 4 * 171 + 3 * 20);
 }
 
-// ---- Pages
-// ----------------------------------------------------------------------------------------------------
+// ---- Pages ----
 
 void tst_SubControlPage::pagesOfFortyNine_data()
 {
@@ -339,8 +337,7 @@ void tst_SubControlPage::tilesKeepTheirOrder()
         (QStringList{QStringLiteral("100003"), QStringLiteral("100001"), QStringLiteral("100002")}));
 }
 
-// ---- Live
-// -----------------------------------------------------------------------------------------------------
+// ---- Live ----
 
 void tst_SubControlPage::onlyTheShownPageIsLive()
 {
@@ -411,8 +408,7 @@ void tst_SubControlPage::remainingTimesFollowTheClock()
     QVERIFY(caption(49).contains(QStringLiteral("1d 2h 2min 59s"))); // at once
 }
 
-// ---- Removal
-// --------------------------------------------------------------------------------------------------
+// ---- Removal ----
 
 void tst_SubControlPage::removalAsks()
 {
@@ -535,8 +531,7 @@ void tst_SubControlPage::removedTilesGetNoInput()
     waitForInput({keyCall(3, 114), keyCall(3, 114), keyCall(3, 115), keyCall(3, 115)});
 }
 
-// ---- What the tiles' menus ask for
-// -----------------------------------------------------------------------------
+// ---- What the tiles' menus ask for ----
 
 void tst_SubControlPage::promotionNamesTheTile()
 {
@@ -643,8 +638,7 @@ void tst_SubControlPage::replacesAnEarlierGroup()
     waitForInput({keyCall(1, 1), keyCall(1, 1)});
 }
 
-// ---- Input
-// ----------------------------------------------------------------------------------------------------
+// ---- Input ----
 
 void tst_SubControlPage::inputGoesToEveryTile()
 {
