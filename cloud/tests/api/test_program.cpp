@@ -159,6 +159,36 @@ TEST_F(ProgramTest, aStreamEndsWithTheDevicesTimeThoughNobodyAsks)
     EXPECT_EQ(devices.at(1).toObject().value("state").toString(), "online");
 }
 
+TEST_F(ProgramTest, devicesTakeTheScreensInTurn)
+{
+    const QJsonObject ready = start({"--devices", "3", "--screens", "720x1280,1080x1920"});
+    const auto gatewayPort = static_cast<std::uint16_t>(QUrl(ready.value("gateway").toString()).port(0));
+    const Headers headers = signIn();
+    const auto screenOf = [&](const QString &id) {
+        const QJsonObject session = TestClient(m_port)
+                                        .post("/apiv1/device/actionDevice",
+                                            {{"service_id", id}, {"action_type", "device_apply"}}, headers)
+                                        .data()
+                                        .value("resultInfo")
+                                        .toObject();
+        RawClient stream(gatewayPort);
+        RawClient::Message login;
+        login.mutable_login()->set_protocol_version(1);
+        login.mutable_login()->set_user_id(session.value("userId").toInt());
+        login.mutable_login()->set_session_id(session.value("sessionId").toString().toStdString());
+        login.mutable_login()->set_pad_code("VM" + id.toStdString());
+        EXPECT_TRUE(stream.send(login.SerializeAsString()));
+        const auto accepted = stream.receive();
+        EXPECT_TRUE(accepted && accepted->has_login_result());
+        return accepted
+            ? std::pair(accepted->login_result().screen_width(), accepted->login_result().screen_height())
+            : std::pair(0U, 0U);
+    };
+    EXPECT_EQ(screenOf("100001"), std::pair(720U, 1280U));
+    EXPECT_EQ(screenOf("100002"), std::pair(1080U, 1920U));
+    EXPECT_EQ(screenOf("100003"), std::pair(720U, 1280U));
+}
+
 TEST_F(ProgramTest, badInputIsRefusedAndTheServiceGoesOn)
 {
     start();
