@@ -105,7 +105,8 @@ void DeviceKeyMapping::addKey(keymap::KeyType type)
 
 bool DeviceKeyMapping::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_question && event->type() == QEvent::KeyPress
+    // Asked for the type first: the question tells of its own end as well, when it is one no more.
+    if (event->type() == QEvent::KeyPress && watched == m_question
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         m_question->done(Unanswered); // what is at stake is not given up by a key
         return true;
