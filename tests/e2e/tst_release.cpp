@@ -101,7 +101,7 @@ void TestRelease::update()
     delete m_dialog;
     m_dialog = new OvUpdateDialog;
     m_dialog->show();
-    const QJsonObject info = ReleaseFiles::updateInfo(*m_service);
+    const QJsonObject info = ReleaseFiles::updateInfo(*m_service, m_service->signIn());
     m_dialog->updateNewVersion(info.value(QLatin1String("update_path")).toString(),
         info.value(QLatin1String("file_info")).toArray());
     waitUntil(QStringLiteral("the installer is ready"),
