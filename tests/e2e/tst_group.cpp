@@ -25,6 +25,7 @@ const QString TemporaryGroup = QStringLiteral("Temporary grouping");
 
 // In the main window at its working size.
 constexpr QPoint DevicesItem(75, 90);
+constexpr QPoint SearchField(966, 82);
 constexpr QPoint GroupsItem(75, 134);
 constexpr QPoint OpenFirstGroup(1034, 167);
 constexpr QRect ThirdGroup(420, 360, 300, 90); // in the list of groups
@@ -183,7 +184,8 @@ void TestGroup::openTemporaryGroup()
 {
     clickIn(MainWindow, DevicesItem);
     settledPicture(QStringLiteral("the device list"), Desktop::window(MainWindow));
-    Desktop::key(QStringLiteral("Down"));
+    clickIn(MainWindow, SearchField);
+    Desktop::key(QStringLiteral("Down")); // into the list
     for (int i = 0; i < 3; ++i) {
         Desktop::key(QStringLiteral("space"));
         Desktop::key(QStringLiteral("Right"));

@@ -73,7 +73,7 @@ class PackageContents(unittest.TestCase):
 
     def test_notices_of_the_page_s_libraries(self):
         notices = (self.root / "usr/share/doc/orvane/frontend-licences.txt").read_text()
-        for library in ("vue ", "vue-router ", "vue-i18n ", "jmuxer ", "@bufbuild/protobuf "):
+        for library in ("vue ", "vue-router ", "jmuxer ", "@bufbuild/protobuf "):
             self.assertRegex(notices, rf"(?m)^{library}\d")
         self.assertNotIn("vitest", notices)
 

@@ -20,9 +20,6 @@ using e2e::waitUntil;
 
 namespace {
 
-const QString mainWindowTitle = QStringLiteral("Orvane");
-const QString updateDialogTitle = QStringLiteral("Update");
-const QString installer = QStringLiteral("Orvane_Setup_1.3.0.exe");
 constexpr QSize deviceScreen(720, 1280);
 constexpr int shadowMargin = 10;
 constexpr int titleBarHeight = 40;
@@ -51,25 +48,7 @@ constexpr QPoint settingsItem(75, 178);
 constexpr QPoint oneMinute(329, 519);
 constexpr QPoint german(379, 291);
 constexpr QPoint arabic(379, 379);
-constexpr QPoint closeButtonOfPage(-34, 32); // from the right
-constexpr QPoint checkForUpdates(340, 660);
-constexpr QPoint installUpdate(626, 427);
 constexpr QPoint englishOfArabic(761, 203); // the Arabic page is mirrored
-const QColor accent(0xFF, 0x9B, 0x7A);
-// In the update dialog.
-constexpr QPoint installLater(50, 170);
-constexpr QPoint confirmUpdate(220, 211);
-constexpr QPoint openSecondGroup(1034, 285);
-// In the group's window, which is as large for every group.
-const QString groupTitle = QStringLiteral("Guild raid");
-const QString savedGroupTitle = QStringLiteral("Evening raid");
-constexpr int groupDevices = 4;
-constexpr QPoint masterVideo(107, 50); // upper left corner
-constexpr QPoint firstTile(487, 74);
-constexpr int tilePitch = 192;
-constexpr QPoint setAsMasterEntry(86, 87); // in a tile
-constexpr QPoint saveGroupButton(50, 90);
-constexpr QPoint groupCloseButton(1230, 30);
 // In the web device window.
 constexpr QPoint captureButton(368, 310);
 constexpr QPoint webCloseButton(366, 20);
@@ -343,9 +322,9 @@ void DemoRun::play()
     waitUntil(QStringLiteral("it shoots"), [&] { return game("shots").toInt() > 0; });
     Desktop::keyUp(QStringLiteral("f"));
     Desktop::key(QStringLiteral("q"));
-    const QPoint pointer = videoArea().center();
+    const QPoint pointer = videoArea().center() + QPoint(60, 0); // beside where it is held
     waitUntil(QStringLiteral("it looks around"), [&] {
-        Desktop::moveTo(pointer); // away from where it is held
+        Desktop::moveTo(pointer);
         const double heading = game("heading").toDouble(); // 0 and 360 are ahead
         return heading > 15 && heading < 345;
     });
@@ -411,75 +390,6 @@ void DemoRun::closeDevice()
     say(QStringLiteral("closed the device window; the service has its session back"));
 }
 
-// The installer is a script that leaves a mark; slowly delivered, so that the download can be seen.
-void DemoRun::offerUpdate()
-{
-    m_release.add(installer,
-        "#!/bin/sh\necho installed >'" + installerMark().toUtf8() + "'\nexit 0\n"
-            + e2e::randomBytes(3'000'000, 5));
-    m_release.publish(m_service, QStringLiteral("1.3.0"));
-    e2e::ReleaseFiles::setFaults(
-        m_service, {{QStringLiteral("file"), installer}, {QStringLiteral("kbit_per_s"), 6000}});
-    clickInMainWindow(settingsItem);
-    settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle));
-    clickInMainWindow(checkForUpdates);
-    waitUntil(QStringLiteral("the page offers the update"), [] {
-        const QPoint button = Desktop::window(mainWindowTitle).topLeft() + installUpdate;
-        return Desktop::screenshot().pixelColor(button) == accent;
-    });
-    save(QStringLiteral("update-offered"),
-        settledPicture(QStringLiteral("the update is offered"), Desktop::window(mainWindowTitle)));
-    say(QStringLiteral("the page offers version 1.3.0"));
-}
-
-void DemoRun::downloadUpdate()
-{
-    clickInMainWindow(installUpdate);
-    waitUntil(QStringLiteral("the update dialog is open"),
-        [] { return !Desktop::window(updateDialogTitle).isEmpty(); });
-    const QString pending = m_client.dataDir() + QStringLiteral("/pending/");
-    waitUntil(QStringLiteral("half of the installer is there"), [&] {
-        return QFileInfo(pending + QStringLiteral("temp_%1.part").arg(installer)).size() > 1'500'000;
-    });
-    save(QStringLiteral("update-downloading"), Desktop::screenshot(Desktop::window(updateDialogTitle)));
-    waitUntil(
-        QStringLiteral("the installer is there"), [&] { return QFile::exists(pending + installer); }, 30000);
-    save(QStringLiteral("update-ready"),
-        settledPicture(QStringLiteral("the choice is shown"), Desktop::window(updateDialogTitle)));
-    say(QStringLiteral("downloaded the installer of version 1.3.0"));
-}
-
-void DemoRun::deferUpdate()
-{
-    const QPoint corner = Desktop::window(updateDialogTitle).topLeft();
-    Desktop::activate(updateDialogTitle);
-    Desktop::click(corner + installLater);
-    save(QStringLiteral("update-deferred"),
-        settledPicture(QStringLiteral("the other choice is made"), Desktop::window(updateDialogTitle)));
-    Desktop::click(corner + confirmUpdate);
-    waitUntil(QStringLiteral("the update dialog is closed"),
-        [] { return Desktop::window(updateDialogTitle).isEmpty(); });
-    waitUntil(QStringLiteral("the choice is in the log"), [this] {
-        return m_client.log().contains(QStringLiteral("the installer will be started when the client ends"));
-    });
-    if (QFile::exists(installerMark()))
-        throw StepFailed(QStringLiteral("the installer has run before the client has ended"));
-}
-
-void DemoRun::updateAtExit()
-{
-    const QPoint corner(Desktop::window(mainWindowTitle).width(), 0);
-    clickInMainWindow(corner + closeButtonOfPage);
-    m_client.waitForExit(30000);
-    waitUntil(QStringLiteral("the installer has run"), [this] { return QFile::exists(installerMark()); });
-    say(QStringLiteral("the client has ended and started the installer"));
-}
-
-QString DemoRun::installerMark() const
-{
-    return QDir(m_client.dataDir()).absoluteFilePath(QStringLiteral("../installed"));
-}
-
 // The page's console ends in the log too. The window system's protocol errors do not count: Qt reports one
 // when the window manager has already destroyed the frame of a window that Qt still asks the position of.
 void DemoRun::checkLog()
@@ -510,10 +420,15 @@ void DemoRun::clickInMainWindow(const QPoint &position)
     Desktop::click(Desktop::window(mainWindowTitle).topLeft() + position);
 }
 
-void DemoRun::chooseStandbyTime()
+void DemoRun::openSettings()
 {
     clickInMainWindow(settingsItem);
     settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle));
+}
+
+void DemoRun::chooseStandbyTime()
+{
+    openSettings();
     clickInMainWindow(oneMinute);
     settledPicture(QStringLiteral("the time is chosen"), Desktop::window(mainWindowTitle));
     clickInMainWindow(devicesItem);
@@ -525,95 +440,6 @@ void DemoRun::showGroups()
     clickInMainWindow(groupsItem);
     save(QStringLiteral("groups"),
         settledPicture(QStringLiteral("the saved groups are shown"), Desktop::window(mainWindowTitle)));
-}
-
-void DemoRun::clickInGroup(const QPoint &position)
-{
-    Desktop::activate(groupTitle);
-    Desktop::click(Desktop::window(groupTitle).topLeft() + position);
-}
-
-QStringList DemoRun::groupPads() const
-{
-    QStringList pads;
-    const QJsonArray sessions = m_service.admin(QStringLiteral("GET"), QStringLiteral("/admin/stats"))
-                                    .value(QLatin1String("sessions"))
-                                    .toArray();
-    for (const QJsonValue &session : sessions)
-        pads << session.toObject().value(QLatin1String("pad_code")).toString();
-    pads.removeAll(m_pad);
-    return pads;
-}
-
-// The one whose devices have no window of their own.
-void DemoRun::openGroup()
-{
-    clickInMainWindow(openSecondGroup);
-    waitUntil(
-        QStringLiteral("the group's window is open"), [] { return !Desktop::window(groupTitle).isEmpty(); });
-    waitUntil(QStringLiteral("the group's devices are connected"),
-        [this] { return groupPads().size() == groupDevices; });
-    const QPoint origin = Desktop::window(groupTitle).topLeft();
-    for (int i = 0; i < groupDevices - 1; ++i) {
-        const QRect tile(origin + firstTile + QPoint(i * tilePitch, 0), QSize(172, 240));
-        waitUntil(QStringLiteral("tile %1 shows its device").arg(i + 1),
-            [&] { return e2e::colourCount(Desktop::screenshot(tile), 60) >= 60; });
-    }
-    save(QStringLiteral("group"),
-        settledPicture(QStringLiteral("the group is shown"), Desktop::window(groupTitle)));
-    say(QStringLiteral("opened the group '%1': %2 devices are live").arg(groupTitle).arg(groupDevices));
-}
-
-void DemoRun::playGroup()
-{
-    const QStringList pads = groupPads();
-    for (const QString &pad : pads)
-        m_service.openApp(pad, QStringLiteral("Paint"));
-    settledPicture(QStringLiteral("Paint is shown"), Desktop::window(groupTitle));
-    const QPoint video = Desktop::window(groupTitle).topLeft() + masterVideo;
-    QVector<QPoint> heart;
-    for (int i = 0; i <= 40; ++i) {
-        const double t = i * 2 * 3.14159265 / 40;
-        const double x = 16 * std::pow(std::sin(t), 3);
-        const double y = 13 * std::cos(t) - 5 * std::cos(2 * t) - 2 * std::cos(3 * t) - std::cos(4 * t);
-        heart << video + QPoint(qRound(173 + 7 * x), qRound(290 - 7 * y));
-    }
-    Desktop::drag(heart);
-    for (const QString &pad : pads)
-        waitUntil(QStringLiteral("the stroke is on %1").arg(pad),
-            [&] { return m_service.appState(pad).value(QLatin1String("strokes")).toInt() == 1; });
-    save(QStringLiteral("group-played"),
-        settledPicture(QStringLiteral("the strokes are shown"), Desktop::window(groupTitle)));
-    say(QStringLiteral("drew one stroke on the master; all %1 devices have it").arg(pads.size()));
-}
-
-void DemoRun::promoteTile()
-{
-    const QPoint tile = Desktop::window(groupTitle).topLeft() + firstTile + QPoint(tilePitch, 0);
-    Desktop::moveTo(tile + QPoint(10, 10));
-    save(QStringLiteral("group-menu"),
-        settledPicture(QStringLiteral("the tile's menu is shown"), Desktop::window(groupTitle)));
-    Desktop::click(tile + setAsMasterEntry);
-    Desktop::moveTo(Desktop::window(groupTitle).topLeft() + masterVideo);
-    save(QStringLiteral("group-promoted"),
-        settledPicture(QStringLiteral("the new master is shown"), Desktop::window(groupTitle)));
-    say(QStringLiteral("made the second tile the master"));
-}
-
-void DemoRun::saveGroup()
-{
-    clickInGroup(saveGroupButton);
-    Desktop::type(savedGroupTitle);
-    save(QStringLiteral("group-save"),
-        settledPicture(QStringLiteral("the name is asked for"), Desktop::window(groupTitle)));
-    Desktop::key(QStringLiteral("Return"));
-    waitUntil(
-        QStringLiteral("the group has its name"), [] { return !Desktop::window(savedGroupTitle).isEmpty(); });
-    Desktop::activate(savedGroupTitle);
-    Desktop::click(Desktop::window(savedGroupTitle).topLeft() + groupCloseButton);
-    waitUntil(QStringLiteral("the group's window is closed"),
-        [] { return Desktop::window(savedGroupTitle).isEmpty(); });
-    say(QStringLiteral("saved the group as '%1' and closed it").arg(savedGroupTitle));
 }
 
 void DemoRun::changeLanguage()

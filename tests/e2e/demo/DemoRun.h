@@ -19,6 +19,8 @@ public:
     bool run();
 
 private:
+    inline static const QString mainWindowTitle = QStringLiteral("Orvane");
+
     void signIn();
     void openDevice();
     void paint();
@@ -31,6 +33,7 @@ private:
     void captureDevice();
     void enterStandby();
     void closeDevice();
+    void openSettings();
     void chooseStandbyTime();
     void showGroups();
     void openGroup();
