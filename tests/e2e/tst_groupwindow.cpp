@@ -279,7 +279,7 @@ void TestGroupWindow::everyDeviceReceivesTheSame()
 void TestGroupWindow::comesBackWithTheGateway()
 {
     constexpr int awayMs = 6000; // longer than the longest pause between two tries
-    constexpr int longestGapMs = 500;
+    constexpr int longestGapMs = 1000;
     e2e::steps([&] {
         openWindow(fullPage);
         QElapsedTimer sinceTick;
@@ -290,7 +290,8 @@ void TestGroupWindow::comesBackWithTheGateway()
         sinceTick.start();
         ticks.start(10);
 
-        m_service->kill();
+        m_service->kill(); // waits for the process's end
+        sinceTick.restart();
         QTest::qWait(awayMs);
         QTest::mouseClick(m_window->mainController()->videoView(), Qt::LeftButton);
         QVERIFY(!page().controllerAt(fullPage - 2)->videoView()->picture().isNull());

@@ -114,6 +114,7 @@ void TestGroupPictures::secondPage()
     QVERIFY(openWith(52));
     m_fixture->window->subControlPage()->onNextPageBtnClicked();
     QCOMPARE(m_fixture->window->subControlPage()->currentPage(), 2);
+    QTRY_COMPARE(m_fixture->tile(49)->geometry().topLeft(), QPoint(15, 24)); // where the first page begins
     save(QStringLiteral("second-page"));
     QVERIFY(!m_fixture->tile(48)->isVisible());
     QVERIFY(m_fixture->tile(51)->isVisible());
