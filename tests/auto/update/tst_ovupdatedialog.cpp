@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -278,9 +279,9 @@ void TestOvUpdateDialog::answersThatAreNoFile()
               if (type == QtWarningMsg)
                   *seen = text;
           });
+    const auto restore = qScopeGuard([before] { qInstallMessageHandler(before); });
     start(QStringLiteral("Orvane_Setup_1.exe"));
     QTRY_VERIFY(!logged.isEmpty());
-    qInstallMessageHandler(before);
     QVERIFY2(QRegularExpression(line).match(logged).hasMatch(), qPrintable(logged));
     QVERIFY(!isReady());
     QVERIFY(!QFile::exists(m_pending + QStringLiteral("/Orvane_Setup_1.exe")));
