@@ -165,5 +165,6 @@ inline void KeymapRandomFixture::checkNothingIsHeld(const QString &when)
         throw e2e::StepFailed(QStringLiteral("%1: the pointer is still caught").arg(when));
     e2e::waitUntil(
         QStringLiteral("%1: no finger is down on the device").arg(when),
-        [this] { return m_fingers->down().isEmpty() && !isGestureUnderWay(); }, 5000);
+        [this] { return m_fingers->down().isEmpty() && !isGestureUnderWay(); },
+        30000); // a gesture ends by itself
 }
