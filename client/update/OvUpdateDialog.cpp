@@ -408,7 +408,7 @@ QByteArray OvUpdateDialog::takeBytes()
 // Why a reply that has ended without a transport error is not the whole of a file, or empty.
 QString OvUpdateDialog::defectOfWholeReply() const
 {
-    const QString refusal = refusalOf(m_reply);
+    QString refusal = refusalOf(m_reply);
     const qint64 length = m_reply ? lengthOf(m_reply) : -1;
     if (!refusal.isEmpty() || length < 0 || length == m_receivedBytes)
         return refusal;
