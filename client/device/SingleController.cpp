@@ -41,9 +41,6 @@ constexpr int ToastSeconds = 3;
 
 constexpr int OrientationToggle = 3; // landscape to portrait and back, by exclusive or
 
-// What the streaming SDK takes as one text, in bytes of UTF-8.
-constexpr int LongestPaste = 1024 * 1024;
-
 } // namespace
 
 SingleController::SingleController(const QString &serviceId, const QString &deviceName, QWidget *parent)
