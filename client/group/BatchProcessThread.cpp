@@ -21,6 +21,8 @@ BatchProcessThread::~BatchProcessThread()
     m_stopWanted.notify_all();
     quit();
     wait();
+    // After the thread's last step also for tools that do not see into the toolkit's wait.
+    const std::lock_guard<std::mutex> lock(m_mutex);
 }
 
 void BatchProcessThread::setControllers(const Controllers &controllers)
