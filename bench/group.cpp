@@ -7,6 +7,7 @@
 #include "GroupSession.h"
 #include "Report.h"
 #include "Resources.h"
+#include "SpreadFloor.h"
 #include "Waiting.h"
 
 #include "group/BatchProcessThread.h"
@@ -25,6 +26,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <future>
 #include <vector>
 
 namespace {
@@ -33,7 +35,7 @@ constexpr int smallGroup = 50;
 constexpr int largeGroup = 200;
 constexpr int settleMs = 3000;
 constexpr int measureMs = 10000;
-constexpr int touches = 60;
+constexpr int touches = 200;
 constexpr int touchPauseMs = 130; // longer than the thread that replays them sleeps
 constexpr int key = 30; // any letter
 constexpr int drainMs = 2000; // at each rate
@@ -104,8 +106,8 @@ std::vector<double> arrivals(bench::GroupSession &session, const QString &pad, i
     return times;
 }
 
-// The time between the first and the last device that receives a touch.
-QJsonObject spreadFigures(bench::GroupSession &session)
+// The time between the first and the last device that receives a touch, for each of them.
+std::vector<double> touchSpreads(bench::GroupSession &session)
 {
     for (int i = 0; i < touches; ++i) {
         session.page().onSubControlTouchEvent(i % 2, 0.5F, 0.5F);
@@ -125,9 +127,32 @@ QJsonObject spreadFigures(bench::GroupSession &session)
     std::vector<double> spreads;
     for (std::size_t i = 0; i < first.size(); ++i)
         spreads.push_back(last[i] - first[i]);
-    return {{QStringLiteral("spread_p50_ms"), bench::percentile(spreads, 0.5)},
-        {QStringLiteral("spread_p90_ms"), bench::percentile(spreads, 0.9)},
-        {QStringLiteral("spread_max_ms"), bench::percentile(spreads, 1)}};
+    return spreads;
+}
+
+// The same of bare sockets and threads, while the tiles go on moving.
+std::vector<double> bareSpreads(const bench::GroupSession &session)
+{
+    const int receivers = static_cast<int>(session.tilePads().size());
+    auto spreads = std::async(
+        std::launch::async, bench::spreadFloor, receivers, touches, std::chrono::milliseconds(touchPauseMs));
+    while (spreads.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+        QTest::qWait(touchPauseMs);
+    return spreads.get();
+}
+
+QJsonObject spreadFigures(bench::GroupSession &session)
+{
+    QJsonObject figures;
+    const auto insert = [&figures](const QString &name, const std::vector<double> &spreads) {
+        figures.insert(name + QStringLiteral("_p50_ms"), bench::percentile(spreads, 0.5));
+        figures.insert(name + QStringLiteral("_p90_ms"), bench::percentile(spreads, 0.9));
+        figures.insert(name + QStringLiteral("_p99_ms"), bench::percentile(spreads, 0.99));
+        figures.insert(name + QStringLiteral("_max_ms"), bench::percentile(spreads, 1));
+    };
+    insert(QStringLiteral("spread"), touchSpreads(session));
+    insert(QStringLiteral("floor_spread"), bareSpreads(session));
+    return figures;
 }
 
 // Whether every device has received so many events in all.

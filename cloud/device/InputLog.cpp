@@ -1,8 +1,7 @@
 #include "device/InputLog.h"
 
-#include <QJsonDocument>
-
 #include <algorithm>
+#include <utility>
 
 namespace orvane::cloud {
 
@@ -15,14 +14,13 @@ std::size_t sizeOf(const InputRecord &record)
 
 } // namespace
 
-void InputLog::add(
-    std::chrono::steady_clock::time_point time, const std::string &session, const QJsonObject &event)
+void InputLog::add(std::chrono::steady_clock::time_point time, const std::string &session, std::string json)
 {
     InputRecord record;
     record.sequence = ++m_lastSequence;
     record.timeUs = std::chrono::duration_cast<std::chrono::microseconds>(time.time_since_epoch()).count();
     record.sessionId = session;
-    record.json = QJsonDocument(event).toJson(QJsonDocument::Compact).toStdString();
+    record.json = std::move(json);
     m_bytes += sizeOf(record);
     m_records.push_back(std::move(record));
     while (m_records.size() > MaxRecords || (m_bytes > MaxBytes && m_records.size() > 1)) {

@@ -2,8 +2,6 @@
 
 #include "core/DeviceFleet.h"
 
-#include <QJsonObject>
-
 #include <chrono>
 #include <cstdint>
 #include <deque>
@@ -20,8 +18,8 @@ public:
     // The oldest records go when their texts are larger than this together; the newest record always stays.
     static constexpr std::size_t MaxBytes = std::size_t{8} * 1024 * 1024;
 
-    void add(
-        std::chrono::steady_clock::time_point time, const std::string &session, const QJsonObject &event);
+    // `json`: the event as a compact JSON object.
+    void add(std::chrono::steady_clock::time_point time, const std::string &session, std::string json);
     // Records after `sequence`, oldest first.
     std::vector<InputRecord> since(std::uint64_t sequence) const;
 

@@ -7,8 +7,8 @@
 #include "device/Shell.h"
 #include "device/Surface.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <linux/input-event-codes.h>
 
@@ -65,6 +65,34 @@ int batteryPercent(const std::string &padCode)
 QJsonObject event(const char *type)
 {
     return {{QStringLiteral("type"), QString::fromLatin1(type)}};
+}
+
+std::string jsonText(const QJsonObject &event)
+{
+    return QJsonDocument(event).toJson(QJsonDocument::Compact).toStdString();
+}
+
+// Touches and keys come by the thousand, to hundreds of devices at once: their texts are put together here,
+// in a fraction of the time that taking them through objects needs.
+
+std::string touchText(int action, const std::vector<TouchPoint> &points)
+{
+    std::string text = R"({"action":)" + std::to_string(action) + R"(,"points":[)";
+    const std::size_t count = std::min(points.size(), FingerTracker::MaxFingers);
+    for (std::size_t i = 0; i < count; ++i) {
+        text += i == 0 ? "[" : ",[";
+        text += std::to_string(points[i].x);
+        text += ',';
+        text += std::to_string(points[i].y);
+        text += ']';
+    }
+    return text + R"(],"type":"touch"})";
+}
+
+std::string keyText(int action, int code, bool shift)
+{
+    return R"({"action":)" + std::to_string(action) + R"(,"code":)" + std::to_string(code) + R"(,"shift":)"
+        + (shift ? "true" : "false") + R"(,"type":"key"})";
 }
 
 } // namespace
@@ -172,15 +200,7 @@ void VirtualDevice::touch(
     const std::string &sessionKey, int action, const std::vector<TouchPoint> &points, TimePoint time)
 {
     Impl &d = *m_impl;
-    QJsonArray list;
-    const std::size_t count = std::min(points.size(), FingerTracker::MaxFingers);
-    for (std::size_t i = 0; i < count; ++i) {
-        list.append(QJsonArray{points[i].x, points[i].y});
-    }
-    QJsonObject record = event("touch");
-    record.insert(QStringLiteral("action"), action);
-    record.insert(QStringLiteral("points"), list);
-    d.log.add(time, sessionKey, record);
+    d.log.add(time, sessionKey, touchText(action, points));
 
     d.shell.advance(time);
     for (FingerEvent change : d.fingers.frame(sessionKey, action, points)) {
@@ -193,11 +213,7 @@ void VirtualDevice::touch(
 void VirtualDevice::key(const std::string &sessionKey, int action, int code, bool shift, TimePoint time)
 {
     Impl &d = *m_impl;
-    QJsonObject record = event("key");
-    record.insert(QStringLiteral("action"), action);
-    record.insert(QStringLiteral("code"), code);
-    record.insert(QStringLiteral("shift"), shift);
-    d.log.add(time, sessionKey, record);
+    d.log.add(time, sessionKey, keyText(action, code, shift));
 
     d.shell.advance(time);
     if (code == KEY_RESERVED) {
@@ -229,7 +245,7 @@ void VirtualDevice::text(const std::string &sessionKey, const std::string &utf8,
     const QString text = QString::fromStdString(utf8);
     QJsonObject record = event("text");
     record.insert(QStringLiteral("text"), text);
-    m_impl->log.add(time, sessionKey, record);
+    m_impl->log.add(time, sessionKey, jsonText(record));
     m_impl->shell.advance(time);
     m_impl->shell.textTyped(typed(text));
 }
@@ -243,7 +259,7 @@ void VirtualDevice::picture(const std::string &sessionKey, const std::string &jp
     record.insert(QStringLiteral("bytes"), static_cast<qint64>(jpeg.size()));
     record.insert(QStringLiteral("width"), size.width());
     record.insert(QStringLiteral("height"), size.height());
-    d.log.add(time, sessionKey, record);
+    d.log.add(time, sessionKey, jsonText(record));
     d.shell.advance(time);
 
     const char *code = d.padCode.c_str();
@@ -267,7 +283,7 @@ void VirtualDevice::audio(const std::string &sessionKey, int format, const std::
     QJsonObject record = event("audio");
     record.insert(QStringLiteral("format"), format);
     record.insert(QStringLiteral("bytes"), static_cast<qint64>(data.size()));
-    m_impl->log.add(time, sessionKey, record);
+    m_impl->log.add(time, sessionKey, jsonText(record));
     m_impl->shell.advance(time);
 }
 

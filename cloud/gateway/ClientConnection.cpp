@@ -76,6 +76,7 @@ void ClientConnection::accept(std::string loginResult)
         if (self.m_state == State::SignedIn) {
             self.m_heardAt = Clock::now();
             self.watchPeer();
+            self.read();
         }
     });
 }
@@ -311,7 +312,6 @@ void ClientConnection::onLoginAnswer(const client::Login &login, LoginAnswer ans
         m_device->padCode().c_str());
     m_device->join({m_id, login.sessionId, shared_from_this(), m_counters});
     checkAgain(login);
-    read();
 }
 
 // Whoever ends a session first makes it invalid and then looks for its connections in the registry. A session

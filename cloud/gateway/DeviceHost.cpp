@@ -15,6 +15,8 @@ namespace {
 constexpr std::size_t MaxViewers = 32;
 // Sessions that were asked for the camera and may be away; the one asked first is forgotten.
 constexpr std::size_t MaxCameraSessions = 2 * MaxViewers;
+// What somebody who only looks on is shown may be older by this.
+constexpr Clock::duration OnlookerInterval = std::chrono::milliseconds(1000 / FramePacer::OnlookerRate);
 // Action of a touch frame in which no finger went down or up.
 constexpr int TouchMove = 2;
 
@@ -38,6 +40,13 @@ std::vector<TouchPoint> onScreen(const client::Touch &touch, QSize screen)
     return points;
 }
 
+// Input that a device takes in no time.
+bool isQuick(const ClientMessage &message)
+{
+    return std::holds_alternative<client::Touch>(message) || std::holds_alternative<client::Key>(message)
+        || std::holds_alternative<client::Text>(message);
+}
+
 template <typename... Handlers>
 struct Overloaded : Handlers...
 {
@@ -51,6 +60,7 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 DeviceHost::DeviceHost(std::string padCode, const std::string &name, QSize screen, const Executor &executor)
     : m_padCode(std::move(padCode))
     , m_strand(boost::asio::make_strand(executor))
+    , m_deviceMutex([this](const DeviceMutex::Input &input) { takeInput(input); })
     , m_device(m_padCode, name, &QDateTime::currentDateTime, screen)
     , m_pictures(m_device, m_deviceMutex)
     , m_timer(m_strand)
@@ -79,6 +89,9 @@ void DeviceHost::leave(ConnectionId connection)
 
 void DeviceHost::receive(ConnectionId connection, ClientMessage message, std::function<void()> done)
 {
+    if (isQuick(message)) {
+        return m_deviceMutex.give({connection, std::move(message), std::move(done)});
+    }
     boost::asio::post(m_strand,
         [self = shared_from_this(), connection, message = std::move(message),
             done = std::move(done)]() mutable {
@@ -107,32 +120,24 @@ DeviceState DeviceHost::state()
 
 void DeviceHost::reboot()
 {
-    {
-        const std::lock_guard lock(m_deviceMutex);
-        m_device.reboot(Clock::now());
-    }
-    postUpdate();
+    const std::lock_guard lock(m_deviceMutex);
+    m_device.reboot(Clock::now());
+    noteChange(FrameCause::Press);
 }
 
 bool DeviceHost::openApp(const std::string &app)
 {
-    bool opened = false;
-    {
-        const std::lock_guard lock(m_deviceMutex);
-        catchUp(Clock::now());
-        opened = m_device.openApp(app);
-    }
-    postUpdate();
-    return opened;
+    const std::lock_guard lock(m_deviceMutex);
+    catchUp(Clock::now());
+    noteChange(FrameCause::Press);
+    return m_device.openApp(app);
 }
 
 void DeviceHost::setFilmRate(int picturesPerSecond)
 {
-    {
-        const std::lock_guard lock(m_deviceMutex);
-        m_device.setFilmRate(picturesPerSecond);
-    }
-    postUpdate();
+    const std::lock_guard lock(m_deviceMutex);
+    m_device.setFilmRate(picturesPerSecond);
+    noteChange(FrameCause::Press);
 }
 
 bool DeviceHost::rotate(int rotation)
@@ -140,21 +145,17 @@ bool DeviceHost::rotate(int rotation)
     if (rotation < 0 || rotation > 3) {
         return false;
     }
-    {
-        const std::lock_guard lock(m_deviceMutex);
-        m_device.setRotation(rotation);
-    }
-    postUpdate();
+    const std::lock_guard lock(m_deviceMutex);
+    m_device.setRotation(rotation);
+    noteChange(FrameCause::Press);
     return true;
 }
 
 void DeviceHost::requestCamera(bool on)
 {
-    {
-        const std::lock_guard lock(m_deviceMutex);
-        m_device.requestCamera(on);
-    }
-    postUpdate();
+    const std::lock_guard lock(m_deviceMutex);
+    m_device.requestCamera(on);
+    noteChange(FrameCause::Press);
 }
 
 std::string DeviceHost::appStateJson()
@@ -184,6 +185,8 @@ std::uint64_t DeviceHost::screenVersion()
     return m_device.pictureVersion() + 1;
 }
 
+// --- Any thread, with the mutex held ---
+
 void DeviceHost::catchUp(TimePoint now)
 {
     const auto due = m_device.nextTick();
@@ -192,9 +195,61 @@ void DeviceHost::catchUp(TimePoint now)
     }
 }
 
-void DeviceHost::postUpdate()
+void DeviceHost::takeInput(const DeviceMutex::Input &given)
 {
-    boost::asio::post(m_strand, [self = shared_from_this()] { self->update(FrameCause::Press); });
+    const auto session = m_sessions.find(given.connection);
+    if (session == m_sessions.end()) {
+        return; // replaced or on its way out: its input no longer counts
+    }
+    if (const auto cause = input(session->second, given.message)) {
+        noteChange(*cause);
+    }
+}
+
+std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
+{
+    const TimePoint now = Clock::now(); // the device's times must not go back: read with the mutex held
+    if (const auto *touch = std::get_if<client::Touch>(&message)) {
+        m_device.touch(session, touch->action, onScreen(*touch, m_device.screenSize()), now);
+        return touch->action == TouchMove ? FrameCause::Motion : FrameCause::Press;
+    }
+    if (const auto *key = std::get_if<client::Key>(&message)) {
+        m_device.key(session, key->action, key->code, key->shift, now);
+        return FrameCause::Press;
+    }
+    if (const auto *text = std::get_if<client::Text>(&message)) {
+        m_device.text(session, text->text, now);
+        return FrameCause::Press;
+    }
+    if (const auto *picture = std::get_if<client::Picture>(&message)) {
+        m_device.picture(session, picture->jpeg, now);
+        return FrameCause::Motion;
+    }
+    if (const auto *audio = std::get_if<client::Audio>(&message)) {
+        m_device.audio(session, audio->format, audio->data, now);
+        return FrameCause::Motion;
+    }
+    return std::nullopt;
+}
+
+// The device has changed. Calls for an update unless one is under way or the change can wait: waking a worker
+// for each of a group's hundreds of devices costs more than the input itself.
+void DeviceHost::noteChange(FrameCause cause)
+{
+    m_changeCause = std::max(m_changeCause.value_or(cause), cause);
+    if (!m_updatePosted && !canChangeWait()) {
+        m_updatePosted = true;
+        boost::asio::post(m_strand, [self = shared_from_this()] { self->update(FrameCause::Animation); });
+    }
+}
+
+bool DeviceHost::canChangeWait() const
+{
+    if (!m_events.empty() || m_audience.isOperated) {
+        return false; // somebody is to be told, or to see it at once
+    }
+    return !m_audience.isWatched
+        || (m_audience.nextUpdate && *m_audience.nextUpdate <= Clock::now() + OnlookerInterval);
 }
 
 // --- Strand ---
@@ -220,6 +275,7 @@ void DeviceHost::joinNow(Joining joining)
         rotation = m_device.rotation();
         camera = m_device.wantedCamera();
         size = m_device.screenSize();
+        m_sessions.emplace(joining.connection, joining.sessionId);
     }
     joining.link->accept(server::loginAccepted(size, rotation));
     m_entries.push_back(std::make_unique<Entry>(Entry{joining.connection,
@@ -241,6 +297,7 @@ void DeviceHost::leaveNow(ConnectionId connection)
     {
         const std::lock_guard lock(m_deviceMutex);
         m_device.sessionGone((*entry)->viewer.sessionId(), Clock::now());
+        m_sessions.erase(connection);
     }
     m_entries.erase(entry);
     update(FrameCause::Press);
@@ -266,9 +323,14 @@ void DeviceHost::receiveNow(ConnectionId connection, ClientMessage &message)
 {
     Viewer *viewer = find(connection);
     if (!viewer) {
-        return; // replaced or on its way out: its input no longer counts
+        return; // replaced or on its way out
     }
-    if (const auto cause = input(viewer->sessionId(), message)) {
+    std::optional<FrameCause> cause;
+    {
+        const std::lock_guard lock(m_deviceMutex);
+        cause = input(viewer->sessionId(), message);
+    }
+    if (cause) {
         return update(*cause);
     }
     const TimePoint now = Clock::now();
@@ -283,33 +345,6 @@ void DeviceHost::receiveNow(ConnectionId connection, ClientMessage &message)
                },
         message);
     update(FrameCause::Animation);
-}
-
-std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
-{
-    const std::lock_guard lock(m_deviceMutex);
-    const TimePoint now = Clock::now(); // the device's times must not go back: read with the mutex held
-    if (const auto *touch = std::get_if<client::Touch>(&message)) {
-        m_device.touch(session, touch->action, onScreen(*touch, m_device.screenSize()), now);
-        return touch->action == TouchMove ? FrameCause::Motion : FrameCause::Press;
-    }
-    if (const auto *key = std::get_if<client::Key>(&message)) {
-        m_device.key(session, key->action, key->code, key->shift, now);
-        return FrameCause::Press;
-    }
-    if (const auto *text = std::get_if<client::Text>(&message)) {
-        m_device.text(session, text->text, now);
-        return FrameCause::Press;
-    }
-    if (const auto *picture = std::get_if<client::Picture>(&message)) {
-        m_device.picture(session, picture->jpeg, now);
-        return FrameCause::Motion;
-    }
-    if (const auto *audio = std::get_if<client::Audio>(&message)) {
-        m_device.audio(session, audio->format, audio->data, now);
-        return FrameCause::Motion;
-    }
-    return std::nullopt;
 }
 
 void DeviceHost::update(FrameCause cause)
@@ -328,6 +363,8 @@ void DeviceHost::update(FrameCause cause)
             tick = m_device.nextTick();
         }
         events.swap(m_events);
+        cause = std::max(cause, std::exchange(m_changeCause, std::nullopt).value_or(cause));
+        m_updatePosted = false;
     }
     for (const DeviceEvent &event : events) {
         deliver(event);
@@ -342,6 +379,18 @@ void DeviceHost::update(FrameCause cause)
     }
     releasePictures();
     schedule(now, tick);
+    publishAudience();
+}
+
+void DeviceHost::publishAudience()
+{
+    const bool isOperated = std::any_of(
+        m_entries.begin(), m_entries.end(), [](const auto &entry) { return entry->viewer.isOperating(); });
+    const std::lock_guard lock(m_deviceMutex);
+    m_audience = {isWatched(), isOperated, m_timerAt};
+    if (m_changeCause) {
+        noteChange(*m_changeCause); // it came meanwhile and may have relied on the old audience
+    }
 }
 
 void DeviceHost::releasePictures()

@@ -2,16 +2,17 @@
 
 #include "core/DeviceFleet.h"
 #include "device/VirtualDevice.h"
+#include "gateway/DeviceMutex.h"
 #include "gateway/ScreenPictures.h"
 #include "gateway/Viewer.h"
+#include "gateway/WorkerPool.h"
 
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/strand.hpp>
-#include <boost/asio/thread_pool.hpp>
 
 #include <functional>
+#include <map>
 #include <memory>
-#include <mutex>
 #include <variant>
 #include <vector>
 
@@ -19,14 +20,15 @@ namespace orvane::cloud {
 
 // One virtual device with the sessions that view and work it. Everything that takes time (drawing,
 // converting, encoding) runs on the host's strand of the worker pool, and only when a picture may go out; a
-// device that nobody watches has no picture and no timer and does nothing.
+// device that nobody watches has no picture and no timer and does nothing. Touches, keys and text do not wait
+// for the strand: they reach the device in the thread that brings them, unless it is just being used.
 //
 // Owned by GatewayFleet and by its own handlers. Viewers, picture and timer belong to the strand. The device
 // itself is guarded by m_deviceMutex, so that the HTTP API can read and change it from its own threads.
 class DeviceHost : public std::enable_shared_from_this<DeviceHost>
 {
 public:
-    using Executor = boost::asio::thread_pool::executor_type;
+    using Executor = WorkerPool::Executor;
     // One connection; never used twice.
     using ConnectionId = std::uint64_t;
 
@@ -51,7 +53,8 @@ public:
     void join(Joining joining);
     // The connection is gone; its fingers and keys are lifted.
     void leave(ConnectionId connection);
-    // A message of a joined connection; `done` is called on the strand when it has taken effect.
+    // A message of a connection whose joining was accepted; others are ignored. `done` is called on any
+    // thread when it has taken effect. Camera pictures and sound may be overtaken by other input.
     void receive(ConnectionId connection, ClientMessage message, std::function<void()> done);
     void learnPathDelay(ConnectionId connection, std::chrono::microseconds delay);
 
@@ -82,6 +85,13 @@ private:
         int rotation;
     };
     using DeviceEvent = std::variant<SensorEvent, ClipboardEvent, RotationEvent>;
+    // How closely the device is watched.
+    struct Audience
+    {
+        bool isWatched = false;
+        bool isOperated = false; // some viewer's level is one to work with
+        std::optional<TimePoint> nextUpdate; // when the strand looks at the device in any case
+    };
     struct Entry
     {
         ConnectionId connection;
@@ -90,28 +100,35 @@ private:
 
     // Any thread, with the mutex held.
     void catchUp(TimePoint now);
+    void takeInput(const DeviceMutex::Input &input);
+    // Gives input to the device. None when the message is no input.
+    std::optional<FrameCause> input(const std::string &session, const ClientMessage &message);
+    void noteChange(FrameCause cause);
+    bool canChangeWait() const;
 
     // Strand only.
     void joinNow(Joining joining);
     void leaveNow(ConnectionId connection);
     void receiveNow(ConnectionId connection, ClientMessage &message);
-    // Gives input to the device. None when the message is no input.
-    std::optional<FrameCause> input(const std::string &session, const ClientMessage &message);
     Viewer *find(ConnectionId connection);
     bool isWatched() const;
+    void publishAudience();
     void update(FrameCause cause);
     void deliver(const DeviceEvent &event);
     void tellSensor(Viewer &viewer, const SensorEvent &event);
     void releasePictures();
     void schedule(TimePoint now, std::optional<TimePoint> deviceTick);
-    void postUpdate();
 
     const std::string m_padCode;
     boost::asio::strand<Executor> m_strand;
 
-    std::mutex m_deviceMutex;
+    DeviceMutex m_deviceMutex;
     VirtualDevice m_device; // m_deviceMutex
     std::vector<DeviceEvent> m_events; // m_deviceMutex; what the device said and nobody was told yet
+    std::map<ConnectionId, std::string> m_sessions; // m_deviceMutex; of the entries
+    std::optional<FrameCause> m_changeCause; // m_deviceMutex; the most urgent since the last update
+    bool m_updatePosted = false; // m_deviceMutex; since the last update
+    Audience m_audience; // m_deviceMutex; as of the last update
 
     std::vector<std::unique_ptr<Entry>> m_entries; // strand
     std::vector<std::string> m_cameraSessions; // strand; asked to start the camera and not yet to stop

@@ -11,15 +11,13 @@ constexpr auto ScreenInterval = std::chrono::microseconds(1'000'000 / 60);
 constexpr auto MotionTolerance = ScreenInterval;
 // Ten presses and releases in one moment, and as many as the screen shows from then on.
 constexpr auto PressTolerance = 20 * ScreenInterval;
-// Frames per second of a level that nobody operates a device with.
-constexpr int OnlookerRate = 5;
 
 } // namespace
 
 TimePoint FramePacer::nextFrameTime(FrameCause cause, TimePoint now) const
 {
     TimePoint due = m_due;
-    if (m_frameRate <= OnlookerRate) {
+    if (isForOnlookers()) {
         return std::max(due, now);
     }
     if (cause != FrameCause::Animation) {

@@ -19,7 +19,12 @@ enum class FrameCause {
 class FramePacer
 {
 public:
+    // The highest rate at which nobody operates a device.
+    static constexpr int OnlookerRate = 5;
+
     void setFrameRate(int framesPerSecond) { m_frameRate = framesPerSecond; }
+
+    bool isForOnlookers() const { return m_frameRate <= OnlookerRate; }
 
     // The earliest time at which the next frame may be encoded; in the past or present = now.
     TimePoint nextFrameTime(FrameCause cause, TimePoint now) const;

@@ -42,14 +42,14 @@ QImage scaledDown(const QImage &image, int maxSide)
 GatewayFleet::GatewayFleet(Options options, SessionStore &sessions)
     : m_options(std::move(options))
     , m_sessions(sessions)
-    , m_workers(std::max(1U, m_options.workerThreads))
+    , m_workers(m_options.workerThreads)
     , m_acceptor(m_network)
     , m_acceptTimer(m_network)
     , m_port(m_options.port)
 {
     for (const Device &device : m_options.devices) {
-        m_devices[device.padCode] = std::make_shared<DeviceHost>(
-            device.padCode, device.name, device.screen, m_workers.get_executor());
+        m_devices[device.padCode]
+            = std::make_shared<DeviceHost>(device.padCode, device.name, device.screen, m_workers.executor());
     }
 }
 
@@ -176,7 +176,7 @@ void GatewayFleet::retryAccept()
 void GatewayFleet::checkLogin(client::Login login, std::function<void(ClientConnection::LoginAnswer)> answer)
 {
     // Looking the session up may wait for the disk.
-    boost::asio::post(m_workers, [this, login = std::move(login), answer = std::move(answer)] {
+    boost::asio::post(m_workers.executor(), [this, login = std::move(login), answer = std::move(answer)] {
         boost::asio::post(m_network, [answer, decision = decide(login)] { answer(decision); });
     });
 }

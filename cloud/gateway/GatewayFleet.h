@@ -4,10 +4,10 @@
 #include "core/SessionStore.h"
 #include "gateway/ClientConnection.h"
 #include "gateway/ConnectionRegistry.h"
+#include "gateway/WorkerPool.h"
 
 #include <boost/asio/executor_work_guard.hpp>
 #include <boost/asio/io_context.hpp>
-#include <boost/asio/thread_pool.hpp>
 
 #include <QSize>
 
@@ -93,7 +93,7 @@ private:
 
     // Destroyed from the last to the first: nothing may outlive the context that its operations run in.
     boost::asio::io_context m_network;
-    boost::asio::thread_pool m_workers;
+    WorkerPool m_workers;
     std::map<std::string, std::shared_ptr<DeviceHost>> m_devices; // constant after construction
     ConnectionRegistry m_registry;
     boost::asio::ip::tcp::acceptor m_acceptor; // network thread after start()

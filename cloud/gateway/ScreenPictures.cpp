@@ -18,7 +18,7 @@ QSize sizeOf(const YuvPicture &picture)
 
 } // namespace
 
-ScreenPictures::ScreenPictures(VirtualDevice &device, std::mutex &deviceMutex)
+ScreenPictures::ScreenPictures(VirtualDevice &device, DeviceMutex &deviceMutex)
     : m_device(device)
     , m_deviceMutex(deviceMutex)
     , m_screen(device.screenSize())

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "gateway/DeviceMutex.h"
 #include "gateway/YuvPicture.h"
 
 #include <QImage>
 #include <QSize>
 
 #include <cstdint>
-#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -24,7 +24,7 @@ class ScreenPictures
 {
 public:
     // Both outlive it.
-    ScreenPictures(VirtualDevice &device, std::mutex &deviceMutex);
+    ScreenPictures(VirtualDevice &device, DeviceMutex &deviceMutex);
 
     // What the device shows now; `size`: even, at least 2 x 2. Valid until the next call.
     const YuvPicture &picture(QSize size);
@@ -47,7 +47,7 @@ private:
     bool isPresent(std::uint64_t version);
 
     VirtualDevice &m_device;
-    std::mutex &m_deviceMutex;
+    DeviceMutex &m_deviceMutex;
     const QSize m_screen;
     bool m_frameKept = false; // the mutex; m_whole follows the device's frame
     std::optional<YuvPicture> m_whole; // of the whole screen; none while nobody wants it

@@ -50,6 +50,8 @@ public:
 
     // Whether pictures are wanted at all.
     bool isWatching() const { return m_selection.castMode() != CastMode::Paused; }
+    // Whether its level is one to operate the device with, so that the effect of input is to show at once.
+    bool isOperating() const { return isWatching() && !m_pacer.isForOnlookers(); }
     // The size of the pictures that are wanted; none while paused.
     std::optional<QSize> pictureSize() const;
     // The device's screen has a new picture.
