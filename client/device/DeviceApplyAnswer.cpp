@@ -2,8 +2,6 @@
 
 #include "stream/ControlAddress.h"
 
-#include <QJsonDocument>
-
 stream::StreamingData streamingDataOf(const QJsonValue &data, const QString &serviceId)
 {
     const QJsonValue result = data[QStringLiteral("resultInfo")];
@@ -17,11 +15,4 @@ stream::StreamingData streamingDataOf(const QJsonValue &data, const QString &ser
     streaming.controlIp = address.ip;
     streaming.sessionId = result[QStringLiteral("sessionId")].toString();
     return streaming;
-}
-
-QString applyLogText(const QJsonValue &data)
-{
-    const QJsonDocument document = QJsonDocument::fromVariant(data.toVariant());
-    return document.isNull() ? data.toVariant().toString()
-                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }

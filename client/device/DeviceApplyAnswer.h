@@ -9,5 +9,3 @@
 // device of `serviceId`. What is missing or of the wrong type stays at StreamingData's defaults, except that
 // texts are empty.
 stream::StreamingData streamingDataOf(const QJsonValue &data, const QString &serviceId);
-// The same data for the log, on one line.
-QString applyLogText(const QJsonValue &data);

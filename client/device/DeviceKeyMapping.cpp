@@ -1,6 +1,5 @@
 #include "device/DeviceKeyMapping.h"
 
-#include "base/AppSettings.h"
 #include "keymap/KeyMapGuide.h"
 #include "keymap/KeyboardMapEditor.h"
 #include "keymap/KeyboardMapMgr.h"
@@ -29,9 +28,6 @@ constexpr std::chrono::seconds ShownFor{2}; // keys that are not seen in play
 
 // Of a question that was left without an answer; the dialog's own results are 0 and 1.
 constexpr int Unanswered = 2;
-
-// Of the settings file.
-const QLatin1String LocalCopy("keyboardmap_config");
 
 } // namespace
 
@@ -225,7 +221,7 @@ void DeviceKeyMapping::abandon()
 // must not be saved with these keys.
 void DeviceKeyMapping::applyLocalCopy()
 {
-    const QString text = AppSettings().value(LocalCopy).toString();
+    const QString text = KeyboardMapMgr::localCopy();
     qDebug().noquote().nospace() << "onApplyKeyBindingBtnClicked ---> " << text;
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
     if (!document.isObject()) {

@@ -180,7 +180,7 @@ void SingleController::applyDevice()
 void SingleController::onDeviceApplied(const QJsonValue &data)
 {
     qDebug().noquote().nospace() << "single controller apply device success, response data ---> "
-                                 << applyLogText(data);
+                                 << ResponseData::logText(data);
     m_streamingData = streamingDataOf(data, m_serviceId);
     liftEverything();
     m_stream->setVideoView(m_videoView);

@@ -55,13 +55,6 @@ constexpr double MasterPart = 0.33; // of the content's width without the strip
 constexpr int ToastSeconds = 3;
 } // namespace Look
 
-QString logText(const QJsonValue &data)
-{
-    const QJsonDocument document = QJsonDocument::fromVariant(data.toVariant());
-    return document.isNull() ? data.toVariant().toString()
-                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
-}
-
 QJsonObject batchBody(const char *action, const QStringList &serviceIds)
 {
     return {{QStringLiteral("service_ids"), QJsonArray::fromStringList(serviceIds)},
@@ -204,7 +197,8 @@ void GroupController::setDevices(const group::GroupDevices &devices)
 
 void GroupController::onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data)
 {
-    qDebug().noquote().nospace() << "batchActionDevice devcie_apply request success! " << logText(data);
+    qDebug().noquote().nospace() << "batchActionDevice devcie_apply request success! "
+                                 << ResponseData::logText(data);
     QList<group::GroupDevice> connected = group::connectedDevices(m_serviceIds, devices, data);
     if (connected.isEmpty())
         return;

@@ -292,6 +292,11 @@ void KeyboardMapMgr::keepLocalCopy(QVariantMap &scheme) const
     AppSettings().setValue(LocalCopy, jsonText(scheme));
 }
 
+QString KeyboardMapMgr::localCopy()
+{
+    return AppSettings().value(LocalCopy).toString();
+}
+
 QJsonObject KeyboardMapMgr::mapConfigAt(int index) const
 {
     if (index < 0 || index >= m_mapConfigs.size())

@@ -87,6 +87,8 @@ public:
     void saveCurrentScheme(QVariantMap &scheme);
     // Keeps a scheme of the editor, with the keys, in the settings file alone.
     void keepLocalCopy(QVariantMap &scheme) const;
+    // The scheme in the settings file, as JSON text; empty if there is none.
+    static QString localCopy();
     // The scheme of the last save as JSON text, and its "map_id"; empty before.
     QString currentConfigJson() const { return m_currentConfigJson; }
     QString savedMapId() const { return m_savedMapId; }

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QVariant>
 
 ResponseData ResponseData::fromJson(const QString &text)
 {
@@ -13,4 +14,11 @@ ResponseData ResponseData::fromJson(const QString &text)
     if (!data.isUndefined())
         response.data = data;
     return response;
+}
+
+QString ResponseData::logText(const QJsonValue &data)
+{
+    const QJsonDocument document = QJsonDocument::fromVariant(data.toVariant());
+    return document.isNull() ? data.toVariant().toString()
+                             : QString::fromUtf8(document.toJson(QJsonDocument::Compact));
 }

@@ -15,6 +15,8 @@ struct ResponseData
     // "data": the answer proper, of any JSON type. Null when it is missing.
     QJsonValue data;
 
+    // The answer proper as one line for the log: objects and arrays as JSON, anything else as it is.
+    static QString logText(const QJsonValue &data);
     // Reads an envelope; what is not a JSON object gives the defaults above.
     static ResponseData fromJson(const QString &text);
 };

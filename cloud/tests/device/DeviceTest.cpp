@@ -98,7 +98,7 @@ TEST(InputLogTest, isBoundedInBytes)
 {
     InputLog log;
     const std::chrono::steady_clock::time_point now{1s};
-    const std::string large(1024 * 1024, 'x');
+    const std::string large(std::size_t(1024) * 1024, 'x');
     for (int i = 0; i < 30; ++i) {
         log.add(now, "s", large);
     }

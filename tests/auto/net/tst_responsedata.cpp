@@ -13,6 +13,7 @@ private slots:
     void defaults();
     void fromJson_data();
     void fromJson();
+    void logText();
 };
 
 void TestResponseData::defaults()
@@ -65,6 +66,15 @@ void TestResponseData::fromJson()
     QTEST(response.code, "code");
     QTEST(response.msg, "msg");
     QTEST(response.data, "data");
+}
+
+void TestResponseData::logText()
+{
+    QCOMPARE(
+        ResponseData::logText(QJsonObject{{"a", QJsonArray{1, "x"}}}), QStringLiteral(R"({"a":[1,"x"]})"));
+    QCOMPARE(ResponseData::logText(QJsonArray{1, 2}), QStringLiteral("[1,2]"));
+    QCOMPARE(ResponseData::logText("gone"), QStringLiteral("gone"));
+    QCOMPARE(ResponseData::logText(QJsonValue::Null), QString());
 }
 
 QTEST_GUILESS_MAIN(TestResponseData)
