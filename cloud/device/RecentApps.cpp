@@ -34,10 +34,13 @@ QSize RecentApps::pictureSize(QSize screen, std::size_t cardCount)
     return cardCount <= FewCards ? QSize(189, 336) : QSize(146, 260);
 }
 
-void RecentApps::show(std::vector<Card> cards, QSize screen)
+void RecentApps::show(const std::vector<AppKind> &apps, QSize screen)
 {
     m_shown = true;
-    m_cards = std::move(cards);
+    m_cards.clear();
+    for (const AppKind kind : apps) {
+        m_cards.push_back({kind, {}});
+    }
     m_screen = screen;
     m_pointer = 0;
     m_pressed.reset();
@@ -114,7 +117,7 @@ RecentApps::Choice RecentApps::touchUp(const Pointer &pointer)
     return Choice::Open;
 }
 
-void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip) const
+void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip, const PictureSource &source)
 {
     painter.drawImage(clip.topLeft(), wallpaper(screen), clip);
     painter.fillRect(clip, QColor(14, 21, 40, 150));
@@ -122,6 +125,10 @@ void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip) const
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (std::size_t i = 0; i < m_cards.size(); ++i) {
         const QRect rect = pictureRect(i);
+        QImage &picture = m_cards[i].picture;
+        if (picture.isNull()) {
+            picture = source(m_cards[i].kind, rect.size());
+        }
         drawAppIcon(painter, m_cards[i].kind, QRectF(rect.left() + 2, rect.top() - 48, 38, 38));
         theme::drawLine(painter, QRectF(rect.left() + 50, rect.top() - 52, rect.width() - 50, 46),
             Qt::AlignLeft, theme::font(rect.width() < 180 ? 21 : 25), QColor(theme::Paper),
@@ -130,7 +137,7 @@ void RecentApps::draw(QPainter &painter, QSize screen, const QRect &clip) const
         outline.addRoundedRect(rect, 20, 20);
         painter.save();
         painter.setClipPath(outline, Qt::IntersectClip);
-        painter.drawImage(rect.topLeft(), m_cards[i].picture);
+        painter.drawImage(rect.topLeft(), picture);
         painter.restore();
         painter.setBrush(Qt::NoBrush);
         painter.setPen(

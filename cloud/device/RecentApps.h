@@ -5,21 +5,20 @@
 
 #include <QImage>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
 namespace orvane::cloud {
 
-// The overview of the apps that are open: a card with a picture for each. Covers the whole screen while it is
-// shown. Used by the device's thread, part of the shell, which invalidates the screen after every touch.
+// The overview of the apps that are open: a card with a picture for each, made when it is first drawn: to
+// show it costs nothing, and nobody may be watching. Covers the whole screen while it is shown. Used by the
+// device's thread, part of the shell, which invalidates the screen after every touch.
 class RecentApps
 {
 public:
-    struct Card
-    {
-        AppKind kind;
-        QImage picture;
-    };
+    // What an app looks like, in a size. The apps do not change while the overview is shown.
+    using PictureSource = std::function<QImage(AppKind, QSize)>;
     enum class Choice {
         Nothing,
         Close, // go back to where the user was
@@ -32,7 +31,8 @@ public:
     bool isShown() const { return m_shown; }
     // Size of a card's picture for that screen when there are so many cards. Up to eight fit.
     static QSize pictureSize(QSize screen, std::size_t cardCount);
-    void show(std::vector<Card> cards, QSize screen);
+    // `apps`: of the cards, in their order.
+    void show(const std::vector<AppKind> &apps, QSize screen);
     void hide();
 
     void touchDown(const Pointer &pointer);
@@ -41,9 +41,15 @@ public:
     Choice touchUp(const Pointer &pointer);
     AppKind chosen() const { return m_chosen; } // after Choice::Open
 
-    void draw(QPainter &painter, QSize screen, const QRect &clip) const;
+    void draw(QPainter &painter, QSize screen, const QRect &clip, const PictureSource &source);
 
 private:
+    struct Card
+    {
+        AppKind kind;
+        QImage picture; // none until it is drawn
+    };
+
     QRect pictureRect(std::size_t index) const;
     std::optional<std::size_t> cardAt(QPoint position) const;
 

@@ -387,12 +387,7 @@ void Shell::showRecents()
 {
     cancelTouches();
     leaveFront();
-    std::vector<RecentApps::Card> cards;
-    const QSize picture = RecentApps::pictureSize(m_surface.contentSize(), m_order.size());
-    for (const AppKind kind : m_order) {
-        cards.push_back({kind, pictureOf(*find(kind), picture)});
-    }
-    m_recents.show(std::move(cards), m_surface.contentSize());
+    m_recents.show(m_order, m_surface.contentSize());
     m_surface.invalidateAll();
 }
 
@@ -476,7 +471,8 @@ void Shell::draw(QPainter &painter, const QRect &clip)
     }
     painter.save();
     if (m_recents.isShown()) {
-        m_recents.draw(painter, screen, clip);
+        m_recents.draw(
+            painter, screen, clip, [this](AppKind kind, QSize size) { return pictureOf(*find(kind), size); });
     } else {
         front().draw(painter, clip);
     }

@@ -34,7 +34,9 @@ struct ConnectionTimes
 // device takes the input, so that a flood of input slows its sender down and nothing is dropped.
 //
 // Lives on the network thread and is kept alive by its pending operations and the registry. ClientLink and
-// the operations marked so may be called from any thread; they hand over to the network thread.
+// the operations marked so may be called from any thread; they hand over to the network thread. An input that
+// the device takes late may be the last to know it: then another thread destroys it, long after it was
+// closed.
 class ClientConnection : public ClientLink, public std::enable_shared_from_this<ClientConnection>
 {
 public:
@@ -92,7 +94,7 @@ private:
     void whileSignedIn(ClientMessage &message, std::size_t bytes);
     void onPong(const client::Pong &pong);
     void toDevice(ClientMessage &message, std::size_t bytes);
-    void onDeviceDone(std::size_t bytes); // device strand
+    void onDeviceDone(std::size_t bytes); // any thread
     void protocolError(const std::string &reason);
 
     void enqueue(Outgoing outgoing);
@@ -130,7 +132,7 @@ private:
     std::uint64_t m_lastPingId = 0;
     TimePoint m_lastPingAt{};
 
-    // Input that the device has not taken yet: counted up here, down on the device's strand.
+    // Input that the device has not taken yet: counted up here, down by whoever gave it to the device.
     std::atomic<int> m_pendingMessages{0};
     std::atomic<std::size_t> m_pendingBytes{0};
     std::atomic<bool> m_resumeWanted{false};

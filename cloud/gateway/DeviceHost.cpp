@@ -15,6 +15,11 @@ namespace {
 constexpr std::size_t MaxViewers = 32;
 // Sessions that were asked for the camera and may be away; the one asked first is forgotten.
 constexpr std::size_t MaxCameraSessions = 2 * MaxViewers;
+// Pasted rather than typed.
+constexpr std::size_t LongTextBytes = 256;
+// A device that took longer over an input than this gets the next one on its strand: an app that lays out a
+// long text or draws anew must not hold up the input of other devices.
+constexpr std::chrono::milliseconds SlowInput{1};
 // What somebody who only looks on is shown may be older by this.
 constexpr Clock::duration OnlookerInterval = std::chrono::milliseconds(1000 / FramePacer::OnlookerRate);
 // Action of a touch frame in which no finger went down or up.
@@ -40,11 +45,22 @@ std::vector<TouchPoint> onScreen(const client::Touch &touch, QSize screen)
     return points;
 }
 
-// Input that a device takes in no time.
-bool isQuick(const ClientMessage &message)
+// Input that decides about nothing but itself, and takes a while to decode.
+bool isRecording(const ClientMessage &message)
+{
+    return std::holds_alternative<client::Picture>(message) || std::holds_alternative<client::Audio>(message);
+}
+
+bool isInput(const ClientMessage &message)
 {
     return std::holds_alternative<client::Touch>(message) || std::holds_alternative<client::Key>(message)
         || std::holds_alternative<client::Text>(message);
+}
+
+bool isLongText(const ClientMessage &message)
+{
+    const auto *text = std::get_if<client::Text>(&message);
+    return text && text->text.size() > LongTextBytes;
 }
 
 template <typename... Handlers>
@@ -60,7 +76,8 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 DeviceHost::DeviceHost(std::string padCode, const std::string &name, QSize screen, const Executor &executor)
     : m_padCode(std::move(padCode))
     , m_strand(boost::asio::make_strand(executor))
-    , m_deviceMutex([this](const DeviceMutex::Input &input) { takeInput(input); })
+    , m_deviceMutex(
+          [this](const DeviceMutex::Input &input) { takeInput(input); }, [this] { takeInputSoon(); })
     , m_device(m_padCode, name, &QDateTime::currentDateTime, screen)
     , m_pictures(m_device, m_deviceMutex)
     , m_timer(m_strand)
@@ -89,8 +106,9 @@ void DeviceHost::leave(ConnectionId connection)
 
 void DeviceHost::receive(ConnectionId connection, ClientMessage message, std::function<void()> done)
 {
-    if (isQuick(message)) {
-        return m_deviceMutex.give({connection, std::move(message), std::move(done)});
+    if (isInput(message)) {
+        const bool isSlow = m_isSlow || isLongText(message);
+        return m_deviceMutex.give({connection, std::move(message), std::move(done), isSlow});
     }
     boost::asio::post(m_strand,
         [self = shared_from_this(), connection, message = std::move(message),
@@ -129,8 +147,9 @@ bool DeviceHost::openApp(const std::string &app)
 {
     const std::lock_guard lock(m_deviceMutex);
     catchUp(Clock::now());
+    const bool isOpened = m_device.openApp(app);
     noteChange(FrameCause::Press);
-    return m_device.openApp(app);
+    return isOpened;
 }
 
 void DeviceHost::setFilmRate(int picturesPerSecond)
@@ -185,6 +204,15 @@ std::uint64_t DeviceHost::screenVersion()
     return m_device.pictureVersion() + 1;
 }
 
+// --- Any thread, without the mutex ---
+
+void DeviceHost::takeInputSoon()
+{
+    boost::asio::post(m_strand, [self = shared_from_this()] {
+        const std::lock_guard lock(self->m_deviceMutex); // carries out what waits
+    });
+}
+
 // --- Any thread, with the mutex held ---
 
 void DeviceHost::catchUp(TimePoint now)
@@ -201,9 +229,11 @@ void DeviceHost::takeInput(const DeviceMutex::Input &given)
     if (session == m_sessions.end()) {
         return; // replaced or on its way out: its input no longer counts
     }
+    const TimePoint begin = Clock::now();
     if (const auto cause = input(session->second, given.message)) {
         noteChange(*cause);
     }
+    m_isSlow = Clock::now() - begin > SlowInput;
 }
 
 std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
@@ -325,13 +355,12 @@ void DeviceHost::receiveNow(ConnectionId connection, ClientMessage &message)
     if (!viewer) {
         return; // replaced or on its way out
     }
-    std::optional<FrameCause> cause;
-    {
+    if (isRecording(message)) {
         const std::lock_guard lock(m_deviceMutex);
-        cause = input(viewer->sessionId(), message);
-    }
-    if (cause) {
-        return update(*cause);
+        if (const auto cause = input(viewer->sessionId(), message)) {
+            noteChange(*cause);
+        }
+        return;
     }
     const TimePoint now = Clock::now();
     std::visit(Overloaded{

@@ -10,6 +10,7 @@
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/strand.hpp>
 
+#include <atomic>
 #include <functional>
 #include <map>
 #include <memory>
@@ -46,7 +47,8 @@ public:
 
     const std::string &padCode() const { return m_padCode; }
 
-    // Any thread; carried out in the order of the calls.
+    // Any thread; carried out in the order of the calls, but for touches, keys and text, which keep their own
+    // order and overtake everything else.
 
     // Signs a session in and tells it so, or that the device is busy. A viewer with the same session id
     // leaves.
@@ -54,7 +56,7 @@ public:
     // The connection is gone; its fingers and keys are lifted.
     void leave(ConnectionId connection);
     // A message of a connection whose joining was accepted; others are ignored. `done` is called on any
-    // thread when it has taken effect. Camera pictures and sound may be overtaken by other input.
+    // thread when it has taken effect.
     void receive(ConnectionId connection, ClientMessage message, std::function<void()> done);
     void learnPathDelay(ConnectionId connection, std::chrono::microseconds delay);
 
@@ -98,6 +100,9 @@ private:
         Viewer viewer;
     };
 
+    // Any thread, without the mutex.
+    void takeInputSoon();
+
     // Any thread, with the mutex held.
     void catchUp(TimePoint now);
     void takeInput(const DeviceMutex::Input &input);
@@ -129,6 +134,7 @@ private:
     std::optional<FrameCause> m_changeCause; // m_deviceMutex; the most urgent since the last update
     bool m_updatePosted = false; // m_deviceMutex; since the last update
     Audience m_audience; // m_deviceMutex; as of the last update
+    std::atomic<bool> m_isSlow{false}; // over its last input; set with m_deviceMutex
 
     std::vector<std::unique_ptr<Entry>> m_entries; // strand
     std::vector<std::string> m_cameraSessions; // strand; asked to start the camera and not yet to stop

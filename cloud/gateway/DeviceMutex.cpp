@@ -4,63 +4,101 @@
 
 namespace orvane::cloud {
 
-DeviceMutex::DeviceMutex(Handler handler)
+DeviceMutex::DeviceMutex(Handler handler, Helper helper)
     : m_handler(std::move(handler))
+    , m_helper(std::move(helper))
 { }
 
 void DeviceMutex::lock()
 {
     m_mutex.lock();
-    carryOut();
+    carryOut(waitingInputs(true));
 }
 
+// An input that found the mutex taken was waiting before it was given back here.
 void DeviceMutex::unlock()
 {
     m_mutex.unlock();
-    carryOutIfFree();
+    if (waitingInputs() == 0 || !m_mutex.try_lock()) {
+        return; // if somebody else has it, he looks as well
+    }
+    carryOut(waitingInputs());
+    m_mutex.unlock();
+    if (waitingInputs() > 0) {
+        callHelper();
+    }
 }
 
 void DeviceMutex::give(Input input)
 {
+    const bool isSlow = input.isSlow;
     {
         const std::lock_guard lock(m_waitingMutex);
         m_waiting.push_back(std::move(input));
     }
-    carryOutIfFree();
+    if (isSlow) {
+        return callHelper();
+    }
+    // What waits behind a slow one is carried out by whoever carries that out.
+    while (isNextQuick() && m_mutex.try_lock()) {
+        carryOutQuick();
+        m_mutex.unlock();
+    }
 }
 
-bool DeviceMutex::isWaiting()
+std::size_t DeviceMutex::waitingInputs(bool clearsHelp)
 {
     const std::lock_guard lock(m_waitingMutex);
-    return !m_waiting.empty();
+    m_isHelpComing = m_isHelpComing && !clearsHelp;
+    return m_waiting.size();
 }
 
-// With the mutex held. One by one, so that nothing given meanwhile overtakes what was taken.
-void DeviceMutex::carryOut()
+bool DeviceMutex::isNextQuick()
 {
-    for (;;) {
-        Input input;
-        {
-            const std::lock_guard lock(m_waitingMutex);
-            if (m_waiting.empty()) {
-                return;
-            }
-            input = std::move(m_waiting.front());
-            m_waiting.pop_front();
-        }
+    const std::lock_guard lock(m_waitingMutex);
+    return !m_waiting.empty() && !m_waiting.front().isSlow;
+}
+
+bool DeviceMutex::takeNext(bool evenSlow, Input &input)
+{
+    const std::lock_guard lock(m_waitingMutex);
+    if (m_waiting.empty() || (m_waiting.front().isSlow && !evenSlow)) {
+        return false;
+    }
+    input = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    return true;
+}
+
+// With the mutex held. No more than waited when it began: a flood must not keep its holder for good.
+void DeviceMutex::carryOut(std::size_t count) noexcept
+{
+    Input input;
+    for (; count > 0 && takeNext(true, input); --count) {
         m_handler(input);
         input.done();
     }
 }
 
-// A holder who is in the way looks again after he has given the mutex back: an input that found it taken was
-// waiting by then.
-void DeviceMutex::carryOutIfFree()
+// With the mutex held, by the one who gives the inputs: nothing comes meanwhile.
+void DeviceMutex::carryOutQuick() noexcept
 {
-    while (isWaiting() && m_mutex.try_lock()) {
-        carryOut();
-        m_mutex.unlock();
+    Input input;
+    while (takeNext(false, input)) {
+        m_handler(input);
+        input.done();
     }
+}
+
+void DeviceMutex::callHelper()
+{
+    {
+        const std::lock_guard lock(m_waitingMutex);
+        if (std::exchange(m_isHelpComing, true)) {
+            return;
+        }
+    }
+    m_helper();
 }
 
 } // namespace orvane::cloud

@@ -2,6 +2,7 @@
 
 #include "gateway/ClientMessage.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -11,7 +12,8 @@ namespace orvane::cloud {
 
 // Guards one device, and lets the input for it overtake everything else that is done with it: input waits
 // neither for the mutex nor behind pictures of other devices. If the device is being used when an input
-// comes, whoever uses it carries the input out when he gives the mutex back.
+// comes, whoever uses it carries the input out when he gives the mutex back. Input that takes long is left to
+// a thread that has the time. Whoever carries it out, input keeps its order.
 //
 // Owned by DeviceHost; any thread. To be used with std::lock_guard.
 class DeviceMutex
@@ -21,30 +23,39 @@ public:
     {
         std::uint64_t connection = 0; // ConnectionId of the sender
         ClientMessage message;
-        std::function<void()> done; // called once it has been carried out, with the mutex held
+        std::function<void()> done; // called once it has been carried out
+        bool isSlow = false; // is not to be carried out by the thread that gives it
     };
-    // Carries out one input; called with the mutex held.
+    // Carries out one input. It and `done` are called with the mutex held, and must not throw.
     using Handler = std::function<void(const Input &)>;
+    // Sees to it that a thread with time locks the mutex soon. Called by any thread, without a lock.
+    using Helper = std::function<void()>;
 
-    explicit DeviceMutex(Handler handler);
+    DeviceMutex(Handler handler, Helper helper);
 
     // Waits for the mutex. Every input given before has been carried out when it returns.
     void lock();
-    // Gives the mutex back and carries out what has been given meanwhile.
+    // Gives the mutex back and carries out what has been given meanwhile; what comes during that is for the
+    // helper.
     void unlock();
-    // Carries the input out, after all that were given before: at once, in this thread, or soon, in that of
-    // whoever holds the mutex. Never waits for the mutex, and must not be called by its holder.
+    // Carries the input out, after all that were given before: at once, in this thread, or soon, in another.
+    // Never waits for the mutex, and must not be called by its holder.
     void give(Input input);
 
 private:
-    bool isWaiting();
-    void carryOut();
-    void carryOutIfFree();
+    std::size_t waitingInputs(bool clearsHelp = false);
+    bool isNextQuick();
+    bool takeNext(bool evenSlow, Input &input);
+    void carryOut(std::size_t count) noexcept;
+    void carryOutQuick() noexcept;
+    void callHelper();
 
     const Handler m_handler;
+    const Helper m_helper;
     std::mutex m_mutex;
     std::mutex m_waitingMutex; // taken after m_mutex, never before it
     std::deque<Input> m_waiting; // m_waitingMutex
+    bool m_isHelpComing = false; // m_waitingMutex; the helper was called and nobody has locked since
 };
 
 } // namespace orvane::cloud

@@ -20,13 +20,16 @@ namespace {
 void giveWay()
 {
 #ifdef __linux__
-    constexpr int niceValue = 10;
+    constexpr int niceValue = 5;
     const sched_param parameters{};
-    if (::sched_setscheduler(0, SCHED_BATCH, &parameters) != 0
-        || ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceValue) != 0) {
-        qCWarning(gatewayLog, "a worker cannot give way to the network: %s",
-            std::generic_category().message(errno).c_str());
-    }
+    const auto warnUnless = [](bool succeeded) {
+        if (!succeeded) {
+            qCWarning(gatewayLog, "a worker cannot give way to the network: %s",
+                std::generic_category().message(errno).c_str());
+        }
+    };
+    warnUnless(::sched_setscheduler(0, SCHED_BATCH, &parameters) == 0);
+    warnUnless(::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceValue) == 0);
 #endif
 }
 
@@ -35,8 +38,13 @@ void giveWay()
 WorkerPool::WorkerPool(unsigned threads)
     : m_work(boost::asio::make_work_guard(m_context))
 {
-    for (unsigned i = 0; i < std::max(1U, threads); ++i) {
-        m_threads.emplace_back([this] { run(); });
+    try {
+        for (unsigned i = 0; i < std::max(1U, threads); ++i) {
+            m_threads.emplace_back([this] { run(); });
+        }
+    } catch (...) {
+        join();
+        throw;
     }
 }
 

@@ -15,7 +15,7 @@ class WorkerPool
 public:
     using Executor = boost::asio::io_context::executor_type;
 
-    // Starts the threads, at least one.
+    // Starts the threads, at least one. Throws std::system_error when that is not possible.
     explicit WorkerPool(unsigned threads);
     ~WorkerPool(); // joins
     WorkerPool(const WorkerPool &) = delete;

@@ -4,6 +4,7 @@
 #include "device/RecentApps.h"
 
 #include <QJsonArray>
+#include <QPainter>
 
 #include <linux/input-event-codes.h>
 
@@ -87,13 +88,12 @@ TEST(RecentAppsTest, everyCardIsOnTheScreen)
     for (const QSize screen : {QSize(720, 1280), QSize(1280, 720)}) {
         for (std::size_t count = 1; count <= 8; ++count) {
             RecentApps recents;
-            std::vector<RecentApps::Card> cards;
+            std::vector<AppKind> cards;
             for (std::size_t i = 0; i < count; ++i) {
-                // The number of the card instead of an app.
-                cards.push_back({static_cast<AppKind>(i), {}});
+                cards.push_back(static_cast<AppKind>(i)); // the number of the card instead of an app
             }
             const QSize picture = RecentApps::pictureSize(screen, count);
-            recents.show(std::move(cards), screen);
+            recents.show(cards, screen);
             std::vector<int> hits(count);
             int outside = 0;
             for (int y = 1; y < screen.height(); y += 2) {
@@ -112,6 +112,30 @@ TEST(RecentAppsTest, everyCardIsOnTheScreen)
             }
         }
     }
+}
+
+TEST(RecentAppsTest, picturesAreMadeWhenTheyAreFirstDrawn)
+{
+    const QSize screen(720, 1280);
+    std::vector<AppKind> made;
+    const auto source = [&made](AppKind kind, QSize size) {
+        made.push_back(kind);
+        QImage picture(size, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        return picture;
+    };
+    RecentApps recents;
+    recents.show({AppKind::Notes, AppKind::Paint}, screen);
+    EXPECT_TRUE(made.empty());
+    QImage image(screen, QImage::Format_RGB32);
+    QPainter painter(&image);
+    recents.draw(painter, screen, QRect({}, screen), source);
+    recents.draw(painter, screen, QRect({}, screen), source);
+    EXPECT_EQ(made, (std::vector<AppKind>{AppKind::Notes, AppKind::Paint}));
+    EXPECT_EQ(image.pixelColor(265, 500), QColor(Qt::red));
+    recents.show({AppKind::Notes}, screen);
+    recents.draw(painter, screen, QRect({}, screen), source);
+    EXPECT_EQ(made.size(), 3U);
 }
 
 TEST_F(AppsTest, closeAllForgetsTheApps)

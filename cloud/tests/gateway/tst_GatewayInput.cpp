@@ -126,3 +126,48 @@ TEST_F(GatewayInputTest, InputBeforeTheEndOfAConnectionCounts)
     expectEnd(*client, swplay::wire::SessionEnd::PROTOCOL_ERROR, "a text message");
     EXPECT_TRUE(eventually([&] { return fleet->inputsSince("VM1", 0).size() == touches; }));
 }
+
+TEST_F(GatewayInputTest, LongTextAndWhatFollowsKeepTheirOrder)
+{
+    start();
+    fleet->openApp("VM1", "Notes");
+    auto client = signIn();
+    swplay::wire::StreamMessage longText;
+    longText.mutable_text()->set_text(std::string(20000, 'a'));
+    client->send(longText.SerializeAsString());
+    client->send(DownBytes);
+    client->send(longText.SerializeAsString());
+    client->send(UpBytes);
+    ASSERT_TRUE(eventually([&] { return fleet->inputsSince("VM1", 0).size() == 4; }));
+    std::vector<std::string> types;
+    for (const InputRecord &input : fleet->inputsSince("VM1", 0)) {
+        types.push_back(QJsonDocument::fromJson(QByteArray::fromStdString(input.json))
+                            .object()["type"]
+                            .toString()
+                            .toStdString());
+    }
+    EXPECT_EQ(types, (std::vector<std::string>{"text", "touch", "text", "touch"}));
+}
+
+TEST_F(GatewayInputTest, ASessionThatSeesNothingIsAskedForTheCamera)
+{
+    start();
+    auto client = signIn(); // paused
+    fleet->openApp("VM1", "Camera");
+    EXPECT_TRUE(client->receiveUntil([](const auto &m) { return m.has_sensor_request(); }));
+}
+
+TEST_F(GatewayInputTest, WhoComesAfterTheCameraWasOpenedIsAskedOnce)
+{
+    start();
+    fleet->openApp("VM1", "Camera");
+    auto client = signIn();
+    int requests = 0;
+    fleet->rotate("VM1", 1);
+    const auto rotation = client->receiveUntil([&](const auto &m) {
+        requests += m.has_sensor_request() ? 1 : 0;
+        return m.has_screen_rotation();
+    });
+    EXPECT_TRUE(rotation);
+    EXPECT_EQ(requests, 1);
+}
