@@ -74,8 +74,9 @@ std::vector<double> spreadFloor(int receivers, int events, std::chrono::millisec
         ends.push_back(std::make_unique<Receiver>(acceptor.accept(), static_cast<std::size_t>(events)));
         ends.back()->read();
     }
-    const auto writer = std::async(std::launch::async, write, std::move(sockets), events, pause);
+    auto writer = std::async(std::launch::async, write, std::move(sockets), events, pause);
     reading.run(); // until every connection is closed
+    writer.get();
 
     std::vector<double> spreads;
     for (std::size_t i = 0; i < static_cast<std::size_t>(events); ++i) {

@@ -269,6 +269,7 @@ void Session::connect()
     if (m_phase == Phase::Ended)
         return;
     m_phase = Phase::Connecting;
+    m_triedAt = steady_clock::now();
     Endpoint endpoint;
     std::string padCode;
     {
@@ -413,15 +414,21 @@ void Session::reconnect()
 
 void Session::gatewayIsBack(const Endpoint &gateway)
 {
-    if (m_phase != Phase::Waiting || !m_waitsForGateway)
-        return;
     {
         const std::lock_guard lock(m_mutex);
-        if (m_login->endpoint != gateway)
+        if (!m_login || m_login->endpoint != gateway)
             return;
     }
-    if (m_retryTimer.cancel() > 0) // otherwise the try is on its way already
+    const bool isStuck
+        = m_phase == Phase::Connecting && steady_clock::now() - m_triedAt > m_timings.stuckAfter;
+    if (isStuck) {
+        note("the gateway is back; this try is given up for a new one");
+        leaveConnection();
+        m_phase = Phase::Waiting;
         reconnect();
+    } else if (m_phase == Phase::Waiting && m_waitsForGateway && m_retryTimer.cancel() > 0) {
+        reconnect(); // otherwise the try is on its way already
+    }
 }
 
 // A group of devices that lost its gateway comes back with the first of its sessions that gets through,

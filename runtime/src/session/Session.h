@@ -50,6 +50,9 @@ struct SessionTimings
     std::chrono::milliseconds write{30000};
     // The first wait after a try at once has failed.
     std::chrono::milliseconds firstRetry = ReconnectPolicy::FirstDelay;
+    // A try that takes longer, while another session gets through, began when the gateway could not be
+    // reached and may wait long for its packets to be repeated.
+    std::chrono::milliseconds stuckAfter{2000};
 };
 
 // One session with a device: it connects, signs in, hands video to the sink and events to the listener, sends
@@ -206,8 +209,9 @@ private:
     bool m_ackDue = false;
     bool m_everSignedIn = false;
     int m_attempt = 0; // tries since the connection was lost
+    std::chrono::steady_clock::time_point m_triedAt; // when the last one began
     bool m_waitsForGateway = false; // in Waiting: until it can be reached, not for a time it has asked for
-    bool m_wasUnreachable = false; // signed in after tries that failed; the others are to be told
+    bool m_wasUnreachable = false; // had to try again before it signed in; the others are to be told
     int m_rotation = 0; // quarter turns, as last told
     int m_levelRow = 0;
 };

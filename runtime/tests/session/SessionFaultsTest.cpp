@@ -2,6 +2,9 @@
 
 #include "SessionFixture.h"
 
+#include <boost/asio/io_context.hpp>
+#include <boost/asio/ip/tcp.hpp>
+
 #include <thread>
 
 using namespace swplay;
@@ -89,6 +92,7 @@ struct PatientSession
     {
         SessionTimings timings;
         timings.firstRetry = std::chrono::hours(1);
+        timings.stuckAfter = std::chrono::milliseconds(0);
         session = std::make_shared<Session>(2, &listener, timings);
         LoginParameters login;
         login.endpoint = {"127.0.0.1", port, false};
@@ -124,6 +128,33 @@ TEST_F(SessionFaults, GatewayThatIsBackForOneIsBackForAll)
     const auto other = late.accept();
     ASSERT_TRUE(other);
     EXPECT_EQ(patient.listener.next(), "reconnecting 2");
+    EXPECT_EQ(other->signIn().session_id(), "the patient");
+    EXPECT_EQ(patient.listener.next(), "connected");
+    session->stop();
+}
+
+// Packets that were lost while the gateway was away are repeated ever more seldom.
+TEST_F(SessionFaults, TryThatIsStuckIsGivenUpWhenTheGatewayIsBack)
+{
+    using boost::asio::ip::tcp;
+    boost::asio::io_context context;
+    tcp::acceptor listening(context, {boost::asio::ip::address_v4::loopback(), 0});
+    const std::uint16_t port = listening.local_endpoint().port();
+    PatientSession patient(port);
+    patient.session->start();
+    const tcp::socket silent = listening.accept(); // and never says anything
+    listening.close();
+    makeSession();
+    setLogin(port);
+    session->start();
+    EXPECT_EQ(listener.next(), "reconnecting 1");
+    TestGateway late(TestGateway::Kind::Plain, port);
+    peer = late.accept();
+    ASSERT_TRUE(peer);
+    EXPECT_EQ(peer->signIn().session_id(), "session-7");
+    const auto other = late.accept();
+    ASSERT_TRUE(other);
+    EXPECT_EQ(patient.listener.next(), "reconnecting 1");
     EXPECT_EQ(other->signIn().session_id(), "the patient");
     EXPECT_EQ(patient.listener.next(), "connected");
     session->stop();
