@@ -17,7 +17,7 @@ constexpr std::size_t MaxViewers = 32;
 constexpr std::size_t MaxCameraSessions = 2 * MaxViewers;
 // Pasted rather than typed.
 constexpr std::size_t LongTextBytes = 256;
-// A device that took longer over an input than this gets the next one on its strand: an app that lays out a
+// A device that worked longer over an input than this gets the next one on its strand: an app that lays out a
 // long text or draws anew must not hold up the input of other devices.
 constexpr std::chrono::milliseconds SlowInput{1};
 // What somebody who only looks on is shown may be older by this.
@@ -229,11 +229,11 @@ void DeviceHost::takeInput(const DeviceMutex::Input &given)
     if (session == m_sessions.end()) {
         return; // replaced or on its way out: its input no longer counts
     }
-    const TimePoint begin = Clock::now();
+    const auto begin = threadWorkTime();
     if (const auto cause = input(session->second, given.message)) {
         noteChange(*cause);
     }
-    m_isSlow = Clock::now() - begin > SlowInput;
+    m_isSlow = threadWorkTime() - begin > SlowInput;
 }
 
 std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
