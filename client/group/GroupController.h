@@ -89,8 +89,8 @@ private:
     void post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
         const FailureCallback &onFailure);
     void onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data);
-    QString noticeText(const group::ExpiryNotice &notice) const;
     void reassignMaster(const QString &expiredId);
+    QString noticeText(const group::ExpiryNotice &notice) const;
     void releaseHeldKeys();
     void showToast(const QString &text);
     void showTitle();

@@ -52,10 +52,10 @@ private slots:
     void sameRotationDoesNothing();
     void bar();
     void buttons();
-    void doubleClickRestartsOnce();
     void textsWithoutRoom();
     void startsTheStream();
     void restart();
+    void doubleClickRestartsOnce();
     void touchesAndTextReachTheDevice();
     void keys();
     void promotion();
@@ -198,22 +198,6 @@ void TestMainController::buttons()
             QStringLiteral("SWDataSource::sendKeyEvent(3, 139)")}));
 }
 
-// The restart of all devices is one, whatever the hand is used to; a key may well be pressed twice.
-void TestMainController::doubleClickRestartsOnce()
-{
-    MainController main;
-    main.show();
-    QSignalSpy functions(&main, &MainController::functionBtnClicked);
-    QSignalSpy restarts(&main, &MainController::restartBtnClicked);
-    const QVector<FunctionButton *> buttons = main.findChild<FunctionBar *>()->buttons();
-    doubleClick(buttons.at(2));
-    QCOMPARE(restarts.size(), 1);
-    QTest::mouseClick(buttons.at(2), Qt::LeftButton);
-    QCOMPARE(restarts.size(), 2);
-    doubleClick(buttons.at(0));
-    QCOMPARE(functions.size(), 2);
-}
-
 // Texts that are too long for the bar are tool tips.
 void TestMainController::textsWithoutRoom()
 {
@@ -256,6 +240,22 @@ void TestMainController::restart()
     main.restartStream();
     QCOMPARE(startedDevices(), QStringList{QStringLiteral("VMa")});
     QCOMPARE(main.serviceId(), QStringLiteral("a"));
+}
+
+// The restart of all devices is one, whatever the hand is used to; a key may well be pressed twice.
+void TestMainController::doubleClickRestartsOnce()
+{
+    MainController main;
+    main.show();
+    QSignalSpy functions(&main, &MainController::functionBtnClicked);
+    QSignalSpy restarts(&main, &MainController::restartBtnClicked);
+    const QVector<FunctionButton *> buttons = main.findChild<FunctionBar *>()->buttons();
+    doubleClick(buttons.at(2));
+    QCOMPARE(restarts.size(), 1);
+    QTest::mouseClick(buttons.at(2), Qt::LeftButton);
+    QCOMPARE(restarts.size(), 2);
+    doubleClick(buttons.at(0));
+    QCOMPARE(functions.size(), 2);
 }
 
 void TestMainController::touchesAndTextReachTheDevice()
