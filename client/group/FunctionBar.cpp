@@ -1,6 +1,7 @@
 #include "group/FunctionBar.h"
 
 #include "group/FunctionButton.h"
+#include "widgets/DoubleClickFilter.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -50,11 +51,13 @@ FunctionBar::FunctionBar(QWidget *parent)
         auto *button = new FunctionButton(QString::fromLatin1(function.iconPath), this);
         layout->addWidget(button);
         m_buttons.append(button);
-        if (function.keyType == Restart)
+        if (function.keyType == Restart) {
+            new DoubleClickFilter(button);
             connect(button, &QPushButton::clicked, this, &FunctionBar::restartBtnClicked);
-        else
+        } else {
             connect(button, &QPushButton::clicked, this,
                 [this, keyType = function.keyType] { emit functionBtnClicked(keyType); });
+        }
     }
     setTexts();
 }

@@ -6,7 +6,8 @@
 class FunctionButton;
 
 // The bar under the master's picture: keys of the device, and the restart. It acts on nothing itself; the
-// panel connects its signals. The texts stand under the icons if there is room for all of them.
+// panel connects its signals. A double click on the restart is one click. The texts stand under the icons if
+// there is room for all of them.
 //
 // GUI thread; child of the master panel.
 class FunctionBar : public QWidget

@@ -1,5 +1,6 @@
 #include "group/GroupController.h"
 
+#include "group/ExpiryQuestions.h"
 #include "group/GroupApplyAnswer.h"
 #include "group/MainController.h"
 #include "group/SaveGroupDialog.h"
@@ -10,7 +11,6 @@
 #include "stream/StreamController.h"
 #include "stream/VideoView.h"
 #include "widgets/FittedText.h"
-#include "widgets/OvMaskTipsDialog.h"
 #include "widgets/OvTitleBarBase.h"
 #include "widgets/OvToast.h"
 
@@ -113,6 +113,8 @@ void GroupController::createContent()
     content->addWidget(m_mainController);
     content->addWidget(m_subControlPage, 1);
     mainLayout()->addLayout(content, 1);
+    m_expiryQuestions
+        = new ExpiryQuestions(this, [this](const group::ExpiryNotice &notice) { return noticeText(notice); });
 }
 
 QWidget *GroupController::createToolStrip()
@@ -271,19 +273,26 @@ void GroupController::resumeDevice(const QString &serviceId)
 // The page lets the user renew; here the answer changes nothing.
 void GroupController::onDeviceExpireNotice(const QString &serviceId, const QString &deviceName, int minutes)
 {
-    if (serviceId.isEmpty())
-        return;
-    if (serviceId == m_mainController->serviceId()) {
+    m_expiryQuestions->notify({serviceId, deviceName, minutes});
+}
+
+QString GroupController::noticeText(const group::ExpiryNotice &notice) const
+{
+    if (notice.serviceId.isEmpty())
+        return {};
+    QString question;
+    if (notice.serviceId == m_mainController->serviceId()) {
         //: %1: name of the device, %2: number of minutes.
-        ask(tr("The main control device %1 will expire in %2 minutes, which will affect group control "
-               "operations. Do you want to renew?")
-                .arg(deviceName, QString::number(minutes)));
-    } else if (m_subControlPage->findController(serviceId)) {
+        question = tr("The main control device %1 will expire in %2 minutes, which will affect group control "
+                      "operations. Do you want to renew?");
+    } else if (m_subControlPage->findController(notice.serviceId)) {
         //: %1: name of the device, %2: number of minutes.
-        ask(tr("The controlled device %1 will expire in %2 minutes, which will affect group control "
-               "operations. Do you want to renew?")
-                .arg(deviceName, QString::number(minutes)));
+        question = tr("The controlled device %1 will expire in %2 minutes, which will affect group control "
+                      "operations. Do you want to renew?");
+    } else {
+        return {};
     }
+    return question.arg(notice.deviceName, QString::number(notice.minutes));
 }
 
 void GroupController::onDeviceExpired(const QString &serviceId, const QString &deviceName)
@@ -291,10 +300,9 @@ void GroupController::onDeviceExpired(const QString &serviceId, const QString &d
     if (serviceId.isEmpty())
         return;
     if (serviceId == m_mainController->serviceId()) {
-        const OvMaskTipsDialog *question
-            = ask(tr("The master has expired for recycling, shall I reassign the "
-                     "master for you and start again?"));
-        connect(question, &QDialog::accepted, this, [this, serviceId] { reassignMaster(serviceId); });
+        m_expiryQuestions->ask(tr("The master has expired for recycling, shall I reassign the "
+                                  "master for you and start again?"),
+            [this, serviceId] { reassignMaster(serviceId); });
     } else if (SubController *tile = m_subControlPage->findController(serviceId)) {
         //: %1: name of the device.
         showToast(tr("Expired device (%1) removed").arg(deviceName));
@@ -387,15 +395,6 @@ void GroupController::onSaveGroupBtnClicked()
     m_saveGroupDialog->coverParent();
     m_saveGroupDialog->show();
     m_saveGroupDialog->raise();
-}
-
-OvMaskTipsDialog *GroupController::ask(const QString &question)
-{
-    auto *dialog = new OvMaskTipsDialog(this);
-    dialog->coverParent();
-    dialog->setText(question);
-    dialog->open();
-    return dialog;
 }
 
 // One at a time: the newest takes the place of the one before.

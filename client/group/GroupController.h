@@ -10,9 +10,9 @@
 
 #include <functional>
 
+class ExpiryQuestions;
 class HttpHelper;
 class MainController;
-class OvMaskTipsDialog;
 class OvToast;
 class QJsonObject;
 class QJsonValue;
@@ -21,6 +21,10 @@ class SaveGroupDialog;
 class SubControlPage;
 class SubController;
 struct ResponseData;
+
+namespace group {
+struct ExpiryNotice;
+} // namespace group
 
 // The window of a group: a strip of tools, the master device, and the devices that follow it. It applies for
 // all of them at the service at once, gives the first to the master panel and the others to the page of
@@ -86,8 +90,8 @@ private:
         const FailureCallback &onFailure);
     void onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data);
     void reassignMaster(const QString &expiredId);
+    QString noticeText(const group::ExpiryNotice &notice) const;
     void releaseHeldKeys();
-    OvMaskTipsDialog *ask(const QString &question);
     void showToast(const QString &text);
     void showTitle();
     void setTexts();
@@ -99,6 +103,7 @@ private:
     QToolButton *m_saveButton = nullptr; // children
     MainController *m_mainController = nullptr;
     SubControlPage *m_subControlPage = nullptr;
+    ExpiryQuestions *m_expiryQuestions = nullptr;
     SaveGroupDialog *m_saveGroupDialog = nullptr; // made on first use
     QPointer<OvToast> m_toast; // while one is shown
 };

@@ -140,7 +140,8 @@ void MainController::startStream()
         m_videoView->fitPicturesToView();
 }
 
-// The old master first leaves: both sessions of a device are not needed at once.
+// The tile connects to the old master first, and this panel leaves it then: in the same step and with the
+// same session id.
 void MainController::setMainController(SubController *controller)
 {
     if (!controller || m_device.serviceId.isEmpty())

@@ -1,5 +1,7 @@
 #include "group/TileMenu.h"
 
+#include "widgets/DoubleClickFilter.h"
+
 #include <QEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -55,6 +57,7 @@ QPushButton *TileMenu::addEntry(QVBoxLayout *layout, const char *objectName, voi
     button->setCursor(Qt::PointingHandCursor);
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
+    new DoubleClickFilter(button);
     connect(button, &QPushButton::clicked, this, clicked);
     layout->addWidget(button);
     return button;

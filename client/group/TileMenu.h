@@ -6,7 +6,7 @@ class QPushButton;
 class QVBoxLayout;
 
 // What can be done with one tile of the group: four entries over the darkened picture. A click leaves the
-// keyboard where it is; with the keyboard, the Tab key goes through the entries.
+// keyboard where it is; with the keyboard, the Tab key goes through the entries. A double click is one click.
 //
 // GUI thread; child of its tile, which it covers.
 class TileMenu : public QWidget

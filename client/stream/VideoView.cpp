@@ -78,11 +78,19 @@ void VideoView::setViewMode(int mode)
 
 void VideoView::fitPicturesToView()
 {
+    m_fitsPictures = true;
     QSize pixels = size() * devicePixelRatioF();
     if (m_orientation != ScreenOrientation::Portrait)
         pixels.transpose(); // the picture is turned when it is painted
     if (!pixels.isEmpty())
         setDstFormat(BgraFormat, pixels.width(), pixels.height(), 0);
+}
+
+bool VideoView::event(QEvent *event)
+{
+    if (event->type() == QEvent::ScreenChangeInternal && m_fitsPictures)
+        fitPicturesToView();
+    return QWidget::event(event);
 }
 
 void VideoView::setStreamController(const std::weak_ptr<StreamController> &controller)

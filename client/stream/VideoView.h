@@ -58,7 +58,8 @@ public:
     // A stream::ViewMode.
     void setViewMode(int mode);
     // Takes pictures with no more pixels than the view has, until a stream is started or this is called
-    // again: they are scaled before they are converted, and painted as they are. For views much smaller than
+    // again: they are scaled before they are converted, and painted as they are. On another screen, which
+    // may have more pixels in the same size, the view does so again by itself. For views much smaller than
     // 720 x 1280.
     void fitPicturesToView();
     // Tells the size of the remote screen; without it no touch is sent.
@@ -106,6 +107,7 @@ public slots:
     void onRecordingStatusChanged(bool isRecording);
 
 protected:
+    bool event(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -150,6 +152,7 @@ private:
     bool m_pressed = false; // the left mouse button is held on the view
     bool m_ctrlHeld = false; // the wheel pinches
     bool m_hasPicture = false; // sigFirstPicture was emitted
+    bool m_fitsPictures = false; // fitPicturesToView was called
     bool m_inputDisabled = false; // mouse and wheel are ignored
     float m_percentX = 0; // last pointer position, fraction of the remote portrait frame
     float m_percentY = 0;

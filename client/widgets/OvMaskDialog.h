@@ -25,7 +25,7 @@ public:
     void setVisible(bool visible) override;
 
 protected:
-    // Who takes the keyboard, in the order of the Tab key, and who of them has it first.
+    // Who takes the keyboard, in the order of the Tab key, and who has it first: one of them, or this dialog.
     void setFocusOrder(const QVector<QWidget *> &order, QWidget *first);
 
     bool event(QEvent *event) override;
@@ -44,6 +44,6 @@ private:
     void takeRoundingOff();
 
     QVector<QWidget *> m_focusOrder; // children
-    QWidget *m_firstFocus = nullptr; // one of them
+    QWidget *m_firstFocus = nullptr; // one of them, or this
     QPointer<QWidget> m_focusBefore; // gets the focus back
 };

@@ -1,5 +1,7 @@
 #include "widgets/OvMaskTipsDialog.h"
 
+#include "widgets/DoubleClickFilter.h"
+
 #include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -150,6 +152,14 @@ void OvMaskTipsDialog::setText(const QString &text)
 QString OvMaskTipsDialog::text() const
 {
     return m_messageLabel->text();
+}
+
+void OvMaskTipsDialog::setUnprompted()
+{
+    m_confirmButton->setDefault(false);
+    setFocusOrder({m_closeButton, m_confirmButton}, this);
+    new DoubleClickFilter(m_closeButton);
+    new DoubleClickFilter(m_confirmButton);
 }
 
 void OvMaskTipsDialog::reject()

@@ -30,6 +30,12 @@ public:
     void setText(const QString &text);
     QString text() const;
 
+    // For a question that comes by itself, while the user does something else: no key and no second half of a
+    // double click that was meant for what is covered answers it. No button has the focus or is the default;
+    // the Tab key goes to them. Only the Escape key still ends the dialog. Call it before the dialog is
+    // shown.
+    void setUnprompted();
+
     // Ends the dialog with a result of 0, as the button "Close", the Escape key and closing it do.
     void reject() override;
 

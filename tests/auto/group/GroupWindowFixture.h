@@ -12,7 +12,9 @@
 
 #include <Recorder.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QIcon>
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -89,6 +91,21 @@ inline QStringList startedDevices()
             devices.append(text.section(QLatin1Char('"'), 5, 5));
     }
     return devices;
+}
+
+inline bool showsIcon(const QAbstractButton &button, const char *path)
+{
+    const auto imageOf = [&button](const QIcon &icon) { return icon.pixmap(button.iconSize()).toImage(); };
+    const QImage expected = imageOf(QIcon(QString::fromLatin1(path)));
+    return !expected.isNull() && imageOf(button.icon()) == expected;
+}
+
+// Both clicks as the window system gives them to a widget.
+inline void doubleClick(QWidget *widget)
+{
+    QTest::mouseClick(widget, Qt::LeftButton);
+    QTest::mouseDClick(widget, Qt::LeftButton);
+    QTest::mouseRelease(widget, Qt::LeftButton);
 }
 
 // Leaves a picture in the view as the SDK does.

@@ -139,7 +139,7 @@ void TestGroupController::toolStrip()
     QCOMPARE(button->text(), QStringLiteral("Save group"));
     QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
     QCOMPARE(button->iconSize(), QSize(24, 24));
-    QVERIFY(!button->icon().isNull());
+    QVERIFY(showsIcon(*button, ":/icon/svg/group-save.svg"));
     QCOMPARE(button->size(), QSize(72, 50));
     QCOMPARE(button->font().pixelSize(), 11);
     QCOMPARE(button->cursor().shape(), Qt::PointingHandCursor);

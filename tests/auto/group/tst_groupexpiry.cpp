@@ -1,7 +1,9 @@
 #include "GroupWindowFixture.h"
 
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace grouptest;
 
@@ -29,6 +31,17 @@ private slots:
     void noticeOfATile();
     void noticeOfAnotherDevice();
     void noticeBeforeTheDevicesAreThere();
+    void newerNoticeTakesTheOlderOnesPlace();
+    void noticesComeOneByOne();
+    void newerNoticeOfADeviceThatWaits();
+    void noticeOfADeviceThatHasLeft();
+    void noticeThatWaitsKnowsTheMaster();
+    void noticeWaitsForTheExpiredMaster();
+    void noticesOfAWindowThatCloses();
+    void noKeyAnswersUnread_data();
+    void noKeyAnswersUnread();
+    void keyboardReachesTheAnswers();
+    void doubleClickAnswersOneQuestion();
     void noticeAsksForNothing_data();
     void noticeAsksForNothing();
     void nameWithPlaceholders();
@@ -44,6 +57,10 @@ private slots:
     void expiredBeneathAnotherQuestion();
 
 private:
+    // A notice about a device that goes by its id in capital letters.
+    void notice(const char *id, int minutes);
+    // What the questions say, oldest first: the first words, the device and its minutes.
+    QStringList asked() const;
     // The requests for removed devices, once all that were sent have come.
     QList<QJsonArray> unbound();
 
@@ -64,6 +81,26 @@ void TestGroupExpiry::init()
 void TestGroupExpiry::cleanup()
 {
     m_fixture->endWindow();
+}
+
+void TestGroupExpiry::notice(const char *id, int minutes)
+{
+    const QString serviceId = QString::fromLatin1(id);
+    m_fixture->window->onDeviceExpireNotice(serviceId, serviceId.toUpper(), minutes);
+}
+
+QStringList TestGroupExpiry::asked() const
+{
+    const QRegularExpression parts(
+        QStringLiteral("^The (main control|controlled) device (\\S+) will expire in (\\d+) minutes"));
+    QStringList texts;
+    const auto questions = m_fixture->questions();
+    for (const OvMaskTipsDialog *question : questions) {
+        const QRegularExpressionMatch match = parts.match(question->text());
+        texts << (match.hasMatch() ? match.capturedTexts().mid(1).join(QLatin1Char(' '))
+                                   : QStringLiteral("expired"));
+    }
+    return texts;
 }
 
 // Whatever was sent before a save comes before it.
@@ -132,6 +169,152 @@ void TestGroupExpiry::noticeBeforeTheDevicesAreThere()
     m_fixture->server.release();
 }
 
+// The page tells the same device again as its time goes by.
+void TestGroupExpiry::newerNoticeTakesTheOlderOnesPlace()
+{
+    notice("a", 30);
+    notice("a", 10);
+    QCOMPARE(asked(), QStringList{QStringLiteral("main control A 10")});
+    click(m_fixture->questions().first(), "closeButton");
+    QVERIFY(m_fixture->questions().isEmpty());
+    notice("a", 5);
+    QCOMPARE(asked(), QStringList{QStringLiteral("main control A 5")});
+}
+
+// Devices that were bought together run out together: their questions must not pile up.
+void TestGroupExpiry::noticesComeOneByOne()
+{
+    notice("b", 30);
+    notice("c", 30);
+    notice("a", 30);
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled B 30")});
+    click(m_fixture->questions().first(), "closeButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled C 30")});
+    QVERIFY(m_fixture->questions().first()->isAncestorOf(QApplication::focusWidget())
+        || m_fixture->questions().first()->hasFocus());
+    click(m_fixture->questions().first(), "confirmButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("main control A 30")});
+    QTest::keyClick(m_fixture->questions().first(), Qt::Key_Escape);
+    QVERIFY(m_fixture->questions().isEmpty());
+    QVERIFY(m_fixture->window->mainController()->videoView()->hasFocus());
+    QCOMPARE(m_fixture->tiles(), (QStringList{QStringLiteral("b"), QStringLiteral("c")}));
+}
+
+void TestGroupExpiry::newerNoticeOfADeviceThatWaits()
+{
+    notice("b", 30);
+    notice("c", 30);
+    notice("b", 10);
+    notice("c", 10);
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled B 10")});
+    click(m_fixture->questions().first(), "closeButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled C 10")});
+    click(m_fixture->questions().first(), "closeButton");
+    QVERIFY(m_fixture->questions().isEmpty());
+}
+
+void TestGroupExpiry::noticeOfADeviceThatHasLeft()
+{
+    notice("b", 5);
+    notice("c", 5);
+    m_fixture->window->onDeviceExpired(QStringLiteral("c"), QStringLiteral("C"));
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled B 5")});
+    click(m_fixture->questions().first(), "closeButton");
+    QVERIFY(m_fixture->questions().isEmpty());
+}
+
+void TestGroupExpiry::noticeThatWaitsKnowsTheMaster()
+{
+    notice("b", 5);
+    notice("c", 5);
+    notice("a", 5);
+    m_fixture->window->onSetAsMainController(m_fixture->tile(1));
+    click(m_fixture->questions().first(), "closeButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("main control C 5")});
+    click(m_fixture->questions().first(), "closeButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled A 5")});
+}
+
+// Its answer says who is the master and who has left.
+void TestGroupExpiry::noticeWaitsForTheExpiredMaster()
+{
+    m_fixture->window->onDeviceExpired(QStringLiteral("a"), QStringLiteral("A"));
+    notice("a", 1);
+    notice("b", 5);
+    QCOMPARE(asked(), QStringList{QStringLiteral("expired")});
+    click(m_fixture->questions().first(), "confirmButton");
+    QCOMPARE(m_fixture->master(), QStringLiteral("b"));
+    QCOMPARE(asked(), QStringList{QStringLiteral("main control B 5")});
+}
+
+void TestGroupExpiry::noticesOfAWindowThatCloses()
+{
+    notice("a", 5);
+    notice("b", 5);
+    const OvMaskTipsDialog *open = m_fixture->questions().first();
+    QSignalSpy ended(open, &QDialog::finished);
+    m_fixture->window->hide();
+    QTRY_COMPARE(ended.size(), 1);
+    QVERIFY(m_fixture->questions().isEmpty());
+    m_fixture->window->show();
+    QVERIFY(m_fixture->questions().isEmpty()); // nothing that opened where nobody could see it
+    m_fixture->window->onBtnCloseClicked();
+    QTRY_VERIFY(!m_fixture->window);
+}
+
+void TestGroupExpiry::noKeyAnswersUnread_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("Space") << int(Qt::Key_Space);
+    QTest::newRow("Return") << int(Qt::Key_Return);
+    QTest::newRow("Enter") << int(Qt::Key_Enter);
+}
+
+// The question comes while somebody types on the devices.
+void TestGroupExpiry::noKeyAnswersUnread()
+{
+    QFETCH(int, key);
+    m_fixture->window->onDeviceExpired(QStringLiteral("a"), QStringLiteral("A"));
+    QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key));
+    QCOMPARE(m_fixture->master(), QStringLiteral("a"));
+    QCOMPARE(m_fixture->questions().size(), 1);
+    click(m_fixture->questions().first(), "closeButton");
+    notice("b", 5);
+    QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key));
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled B 5")});
+}
+
+void TestGroupExpiry::keyboardReachesTheAnswers()
+{
+    const auto focused = [] { return QApplication::focusWidget()->objectName(); };
+    m_fixture->window->onDeviceExpired(QStringLiteral("a"), QStringLiteral("A"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(focused(), QStringLiteral("closeButton"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(focused(), QStringLiteral("confirmButton"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(m_fixture->questions().isEmpty());
+    QCOMPARE(m_fixture->master(), QStringLiteral("b"));
+    m_fixture->window->onDeviceExpired(QStringLiteral("b"), QStringLiteral("B"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    QCOMPARE(focused(), QStringLiteral("confirmButton"));
+}
+
+// The second click falls on the next question, which takes the same place.
+void TestGroupExpiry::doubleClickAnswersOneQuestion()
+{
+    notice("b", 5);
+    notice("c", 5);
+    click(m_fixture->questions().first(), "closeButton");
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled C 5")});
+    auto *button = m_fixture->questions().first()->findChild<QPushButton *>(QStringLiteral("closeButton"));
+    QTest::mouseDClick(button, Qt::LeftButton);
+    QTest::mouseRelease(button, Qt::LeftButton);
+    QCOMPARE(asked(), QStringList{QStringLiteral("controlled C 5")});
+    click(m_fixture->questions().first(), "closeButton");
+    QVERIFY(m_fixture->questions().isEmpty());
+}
+
 void TestGroupExpiry::noticeAsksForNothing_data()
 {
     QTest::addColumn<QByteArray>("button");
@@ -165,6 +348,7 @@ void TestGroupExpiry::tileExpires()
 {
     m_fixture->window->onDeviceExpired(QStringLiteral("b"), QStringLiteral("Borealis"));
     QCOMPARE(m_fixture->toasts(), QStringList{QStringLiteral("Expired device (Borealis) removed")});
+    QCOMPARE(m_fixture->window->findChild<OvToast *>()->findChild<QTimer *>()->interval(), 3000);
     QVERIFY(m_fixture->questions().isEmpty());
     QCOMPARE(m_fixture->tiles(), QStringList{QStringLiteral("c")});
     QCOMPARE(m_fixture->window->serviceIds(), (QStringList{QStringLiteral("a"), QStringLiteral("c")}));

@@ -7,6 +7,7 @@
 #include <QLayout>
 #include <QMetaMethod>
 #include <QSignalSpy>
+#include <QWindow>
 
 using namespace grouptest;
 
@@ -54,6 +55,7 @@ private slots:
     void textsWithoutRoom();
     void startsTheStream();
     void restart();
+    void doubleClickRestartsOnce();
     void touchesAndTextReachTheDevice();
     void keys();
     void promotion();
@@ -61,6 +63,7 @@ private slots:
     void promotionWithoutAMaster();
     void pictureOfTheDeviceBeforeGoes();
     void landscapeOfTheDeviceBeforeGoes();
+    void anotherScreen();
     void viewIsGone();
     void name();
 };
@@ -152,11 +155,15 @@ void TestMainController::bar()
     QCOMPARE(bar->geometry(), QRect(0, 624, 382, 36));
     QCOMPARE(bar->layout()->spacing(), 20);
     QCOMPARE(bar->layout()->contentsMargins(), QMargins(15, 0, 15, 0));
+    const QVector<const char *> icons
+        = {":/icon/svg/volume-up.svg", ":/icon/svg/volume-down.svg", ":/icon/svg/group-reboot.svg",
+            ":/icon/svg/group-back.svg", ":/icon/svg/group-home.svg", ":/icon/svg/group-menu.svg"};
+    QCOMPARE(bar->buttons().size(), icons.size());
     QStringList texts;
     for (const FunctionButton *button : bar->buttons()) {
-        texts << button->text();
         QCOMPARE(button->iconSize(), QSize(16, 16));
-        QVERIFY(!button->icon().isNull());
+        QVERIFY2(showsIcon(*button, icons.at(texts.size())), icons.at(texts.size()));
+        texts << button->text();
         QVERIFY2(bar->rect().contains(button->geometry()), qPrintable(button->text()));
     }
     QCOMPARE(texts,
@@ -233,6 +240,22 @@ void TestMainController::restart()
     main.restartStream();
     QCOMPARE(startedDevices(), QStringList{QStringLiteral("VMa")});
     QCOMPARE(main.serviceId(), QStringLiteral("a"));
+}
+
+// The restart of all devices is one, whatever the hand is used to; a key may well be pressed twice.
+void TestMainController::doubleClickRestartsOnce()
+{
+    MainController main;
+    main.show();
+    QSignalSpy functions(&main, &MainController::functionBtnClicked);
+    QSignalSpy restarts(&main, &MainController::restartBtnClicked);
+    const QVector<FunctionButton *> buttons = main.findChild<FunctionBar *>()->buttons();
+    doubleClick(buttons.at(2));
+    QCOMPARE(restarts.size(), 1);
+    QTest::mouseClick(buttons.at(2), Qt::LeftButton);
+    QCOMPARE(restarts.size(), 2);
+    doubleClick(buttons.at(0));
+    QCOMPARE(functions.size(), 2);
 }
 
 void TestMainController::touchesAndTextReachTheDevice()
@@ -350,6 +373,29 @@ void TestMainController::landscapeOfTheDeviceBeforeGoes()
     main.setDevice(granted(QStringLiteral("b")));
     QCOMPARE(main.videoView()->orientation(), ScreenOrientation::Portrait);
     QCOMPARE(main.videoView()->size(), QSize(365, 664));
+}
+
+// The same size may have more pixels there.
+void TestMainController::anotherScreen()
+{
+    QWidget window;
+    MainController main(&window);
+    SubController tile(&window);
+    main.setFixedSize(400, 700);
+    tile.onResizeSubController(QSize(171, 295));
+    main.setDevice(granted(QStringLiteral("a")));
+    tile.setDevice(granted(QStringLiteral("b")));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    takeCalls();
+    emit window.windowHandle()->screenChanged(window.screen());
+    const QString format = QStringLiteral("VideoDisplayWinBase::setDstFormat(-1, %1, %2, 0)");
+    QStringList expected;
+    for (const VideoView *view : {main.videoView(), tile.videoView()}) {
+        const QSize pixels = view->size() * view->devicePixelRatioF();
+        expected << format.arg(pixels.width()).arg(pixels.height());
+    }
+    QCOMPARE(takeCalls().filter(QStringLiteral("setDstFormat")), expected);
 }
 
 void TestMainController::viewIsGone()

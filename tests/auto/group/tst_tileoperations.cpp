@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QSignalSpy>
+#include <QTimer>
 
 using namespace grouptest;
 
@@ -89,6 +90,7 @@ void tst_TileOperations::theLastTileStays()
     const auto *toast = m_window->findChild<OvToast *>();
     QVERIFY(toast);
     QCOMPARE(toast->text(), LastTileToast);
+    QCOMPARE(toast->findChild<QTimer *>()->interval(), 3000);
     QCOMPARE(removed.count(), 0);
     QCOMPARE(shownTiles(), QStringList{QStringLiteral("100001")});
 }

@@ -55,6 +55,27 @@ QList<QColor> corners(const QImage &image)
 const QList<QColor> PortraitCorners = {Qt::red, Qt::green, Qt::blue, Qt::yellow};
 const QList<QColor> LandscapeCorners = {Qt::green, Qt::yellow, Qt::red, Qt::blue};
 
+// On a screen whose pixels the test chooses.
+class ScaledView : public VideoView
+{
+public:
+    double scale = 1;
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        if (metric == PdmDevicePixelRatioScaled)
+            return qRound(scale * devicePixelRatioFScale());
+        return VideoView::metric(metric);
+    }
+};
+
+void moveToAnotherScreen(QWidget &view)
+{
+    QEvent moved(QEvent::ScreenChangeInternal); // as the window tells all of its widgets
+    QApplication::sendEvent(&view, &moved);
+}
+
 // Counts paint events.
 class CountingView : public VideoView
 {
@@ -87,6 +108,8 @@ private slots:
     void arrivalsAreCoalesced();
     void hiddenViewIsNotUpdated();
     void pictureOfOtherSizeIsRefused();
+    void fitsPicturesOnAnotherScreen();
+    void keepsThePictureSizeOnAnotherScreen();
     void picture_data();
     void picture();
     void screenshot_data();
@@ -233,6 +256,31 @@ void tst_VideoViewPictures::pictureOfOtherSizeIsRefused()
     small.fill(Qt::red);
     QVERIFY(show(*m_view, small) < 0);
     QCOMPARE(m_view->grab().toImage().pixelColor(4, 4), QColor(Qt::white));
+}
+
+// With the same size in device-independent pixels.
+void tst_VideoViewPictures::fitsPicturesOnAnotherScreen()
+{
+    ScaledView view;
+    view.resize(90, 160);
+    view.fitPicturesToView();
+    QImage blue(90, 160, QImage::Format_RGB32);
+    blue.fill(Qt::blue);
+    QCOMPARE(show(view, blue), 0);
+    view.scale = 2;
+    moveToAnotherScreen(view);
+    QImage green(180, 320, QImage::Format_RGB32);
+    green.fill(Qt::green);
+    QCOMPARE(show(view, green), 0);
+    QCOMPARE(view.picture().size(), QSize(180, 320));
+    QVERIFY(show(view, blue) < 0);
+}
+
+void tst_VideoViewPictures::keepsThePictureSizeOnAnotherScreen()
+{
+    moveToAnotherScreen(*m_view);
+    QCOMPARE(show(*m_view, cornerPicture()), 0);
+    QCOMPARE(m_view->picture().size(), QSize(FrameWidth, FrameHeight));
 }
 
 void tst_VideoViewPictures::picture_data()

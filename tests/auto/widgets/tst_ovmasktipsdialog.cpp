@@ -87,6 +87,7 @@ private slots:
     void mouseDoesNotReachTheWindow();
     void keysDoNotReachTheWindow();
     void focusStays();
+    void unprompted();
     void focusComesBack();
     void oneAboveTheOther();
     void growsWithTheWindow();
@@ -383,6 +384,32 @@ void TestOvMaskTipsDialog::focusStays()
     QCOMPARE(QApplication::focusWidget(), window.button("confirmButton"));
     window.edit->setFocus(); // a covered widget reaches for it
     QCOMPARE(QApplication::focusWidget(), window.button("confirmButton"));
+}
+
+// Keys that were meant for what is covered are lost; the Tab key goes to the answers.
+void TestOvMaskTipsDialog::unprompted()
+{
+    Window window;
+    QVERIFY(window.appear());
+    window.dialog->setUnprompted();
+    window.dialog->open();
+    QTRY_COMPARE(QApplication::focusWidget(), window.dialog.data());
+    QVERIFY(!window.button("confirmButton")->isDefault());
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A})
+        QTest::keyClick(QApplication::focusWidget(), key);
+    QCOMPARE(window.keys, 0);
+    QVERIFY(window.dialog && window.dialog->isVisible());
+    window.edit->setFocus();
+    QCOMPARE(QApplication::focusWidget(), window.dialog.data());
+    QTest::mouseDClick(window.button("confirmButton"), Qt::LeftButton);
+    QTest::mouseRelease(window.button("confirmButton"), Qt::LeftButton);
+    QVERIFY(window.dialog && window.dialog->isVisible());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), window.button("closeButton"));
+    QSignalSpy cancelled(window.dialog, &OvMaskTipsDialog::sigCancelBtnClicked);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(cancelled.count(), 1);
+    QVERIFY(!window.dialog || !window.dialog->isVisible());
 }
 
 // To whatever had it, so that typing goes on where it was.
