@@ -61,6 +61,11 @@ QJsonObject batchBody(const char *action, const QStringList &serviceIds)
         {QStringLiteral("action_type"), QLatin1String(action)}};
 }
 
+QString jsonText(const QJsonObject &body)
+{
+    return QString::fromUtf8(QJsonDocument(body).toJson());
+}
+
 // Which key it is, whatever the layout makes of it; what does not come from a keyboard has no code of one.
 int deviceKeyCodeOf(const QKeyEvent &event)
 {
@@ -166,10 +171,8 @@ void GroupController::connectPanels()
 void GroupController::post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
     const FailureCallback &onFailure)
 {
-    if (!m_httpHelper)
-        m_httpHelper = new HttpHelper(this);
-    m_httpHelper->post(
-        HttpHelper::apiBaseUrl() + QLatin1String(path), QString::fromUtf8(QJsonDocument(body).toJson()),
+    httpHelper().post(
+        HttpHelper::apiBaseUrl() + QLatin1String(path), jsonText(body),
         [onSuccess, onFailure](const ResponseData &response) {
             if (response.code == Contract::SuccessCode)
                 onSuccess(response.data);
@@ -179,20 +182,46 @@ void GroupController::post(const char *path, const QJsonObject &body, const Data
         onFailure);
 }
 
+HttpHelper &GroupController::httpHelper()
+{
+    if (!m_httpHelper)
+        m_httpHelper = new HttpHelper(this);
+    return *m_httpHelper;
+}
+
 // An answer for an earlier group would not fit this one: requests under way are dropped.
 void GroupController::setDevices(const group::GroupDevices &devices)
 {
     delete m_httpHelper;
     m_httpHelper = nullptr;
     m_serviceIds = devices.keys();
-    post(
-        Contract::BatchAction, batchBody("device_apply", m_serviceIds),
-        [this, devices](const QJsonValue &data) { onDevicesApplied(devices, data); },
-        [this](const QString &message) {
-            qWarning().noquote().nospace() << "batchActionDevice devcie_apply request failed!"
-                                           << "\nresponse data --> " << message;
-            showToast(message);
-        });
+    if (!devices.isEmpty())
+        m_mainController->showConnecting();
+    applyForDevices(devices);
+}
+
+// What the service says is shown to the user; an error on the way to it is for the log.
+void GroupController::applyForDevices(const group::GroupDevices &devices)
+{
+    httpHelper().post(
+        HttpHelper::apiBaseUrl() + QLatin1String(Contract::BatchAction),
+        jsonText(batchBody("device_apply", m_serviceIds)),
+        [this, devices](const ResponseData &response) {
+            if (response.code == Contract::SuccessCode)
+                onDevicesApplied(devices, response.data);
+            else
+                onApplyFailed(response.msg, HttpHelper::failureText(response.msg));
+        },
+        [this](const QString &error) { onApplyFailed(error, HttpHelper::failureText()); });
+}
+
+// The message stays in the place of the picture when the toast has gone.
+void GroupController::onApplyFailed(const QString &logged, const QString &shown)
+{
+    qWarning().noquote().nospace() << "batchActionDevice devcie_apply request failed!"
+                                   << "\nresponse data --> " << logged;
+    m_mainController->showFailure(shown);
+    showToast(shown);
 }
 
 void GroupController::onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data)

@@ -82,9 +82,12 @@ private:
     void createContent();
     QWidget *createToolStrip();
     void connectPanels();
+    HttpHelper &httpHelper();
     void post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
         const FailureCallback &onFailure);
+    void applyForDevices(const group::GroupDevices &devices);
     void onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data);
+    void onApplyFailed(const QString &logged, const QString &shown);
     void reassignMaster(const QString &expiredId);
     void releaseHeldKeys();
     OvMaskTipsDialog *ask(const QString &question);

@@ -77,6 +77,7 @@ SubControlPage::SubControlPage(QWidget *parent)
     createBar();
     createPageButtons();
     updateBar();
+    showTexts();
     m_clockTimer->setInterval(ClockIntervalMs);
     connect(m_clockTimer, &QTimer::timeout, this, &SubControlPage::updateRemainingTimes);
 }

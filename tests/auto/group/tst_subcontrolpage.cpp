@@ -41,6 +41,11 @@ void tst_SubControlPage::measures()
 {
     QCOMPARE(m_page->minimumSize(), QSize(775, 660));
     QCOMPARE(SubControlPage::perPage, 50);
+    // The bar has its texts before the first devices.
+    QCOMPARE(child<QComboBox>("perPageBox")->currentText(), QStringLiteral("50/page"));
+    QCOMPARE(child<QLabel>("totalLabel")->text(), QStringLiteral("Total 1"));
+    QCOMPARE(child<QPushButton>("prevButton")->accessibleName(), QStringLiteral("Previous page"));
+    QCOMPARE(child<QPushButton>("nextButton")->accessibleName(), QStringLiteral("Next page"));
     m_page->setDevices(devices(1));
     QCOMPARE(child<QLabel>("totalLabel")->parentWidget()->height(), 35);
     QCOMPARE(child<QComboBox>("perPageBox")->size(), QSize(100, 25));
