@@ -171,15 +171,27 @@ void GroupController::connectPanels()
 void GroupController::post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
     const FailureCallback &onFailure)
 {
+    ++m_unanswered;
     httpHelper().post(
         HttpHelper::apiBaseUrl() + QLatin1String(path), jsonText(body),
-        [onSuccess, onFailure](const ResponseData &response) {
+        [this, onSuccess, onFailure](const ResponseData &response) {
+            countAnswer();
             if (response.code == Contract::SuccessCode)
                 onSuccess(response.data);
             else
                 onFailure(response.msg);
         },
-        onFailure);
+        [this, onFailure](const QString &error) {
+            countAnswer();
+            onFailure(error);
+        });
+}
+
+void GroupController::countAnswer()
+{
+    --m_unanswered;
+    if (m_leaving && m_unanswered == 0)
+        deleteLater();
 }
 
 HttpHelper &GroupController::httpHelper()
@@ -189,11 +201,10 @@ HttpHelper &GroupController::httpHelper()
     return *m_httpHelper;
 }
 
-// An answer for an earlier group would not fit this one: requests under way are dropped.
+// The grants for an earlier group would not fit this one.
 void GroupController::setDevices(const group::GroupDevices &devices)
 {
-    delete m_httpHelper;
-    m_httpHelper = nullptr;
+    ++m_groupNumber;
     m_serviceIds = devices.keys();
     if (!devices.isEmpty())
         m_mainController->showConnecting();
@@ -203,7 +214,9 @@ void GroupController::setDevices(const group::GroupDevices &devices)
 // What the service says is shown to the user; an error on the way to it is for the log.
 void GroupController::applyForDevices(const group::GroupDevices &devices)
 {
-    httpHelper().post(
+    delete m_applyHelper;
+    m_applyHelper = new HttpHelper(this);
+    m_applyHelper->post(
         HttpHelper::apiBaseUrl() + QLatin1String(Contract::BatchAction),
         jsonText(batchBody("device_apply", m_serviceIds)),
         [this, devices](const ResponseData &response) {
@@ -252,8 +265,9 @@ void GroupController::onSaveGroup(const QString &groupName)
         {QStringLiteral("service_ids"), QJsonArray::fromStringList(m_serviceIds)}};
     post(
         Contract::GroupAction, body,
-        [this, groupName](const QJsonValue &) {
-            setGroupName(groupName);
+        [this, groupName, groupNumber = m_groupNumber](const QJsonValue &) {
+            if (groupNumber == m_groupNumber)
+                setGroupName(groupName);
             emit updateGroup();
             qDebug().noquote() << "save group success";
         },
@@ -482,11 +496,23 @@ void GroupController::closeEvent(QCloseEvent *event)
 {
     if (event->spontaneous())
         emit sigCloseBtnClicked();
-    delete m_httpHelper; // its answers must not start anything in a closed window
-    m_httpHelper = nullptr;
+    delete m_applyHelper; // its answer must not start anything in a closed window
+    m_applyHelper = nullptr;
     releaseHeldKeys();
     m_mainController->stopStream();
     if (m_toast)
         m_toast->close();
+    if (m_unanswered > 0)
+        stayUntilAnswered();
     GroupWindow::closeEvent(event);
+}
+
+// A group that is being saved or a device that is being given back would be lost with the request. No session
+// lasts that long.
+void GroupController::stayUntilAnswered()
+{
+    m_leaving = true;
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    if (m_subControlPage->controllerCount() > 0)
+        m_subControlPage->setDevices({});
 }

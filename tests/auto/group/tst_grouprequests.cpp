@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QRegularExpression>
+#include <QSignalSpy>
 
 using namespace grouptest;
 
@@ -28,6 +29,11 @@ private slots:
     void applyFails();
     void failureStaysInThePlaceOfThePicture();
     void failureOfALaterGroupLeavesThePicture();
+    void closingDropsTheApplication();
+    void closingKeepsARemoval();
+    void closingKeepsASaving();
+    void closedWindowGoesAfterAFailure();
+    void savingOfAnEarlierGroup();
 
 private:
     const QLabel &status() const { return *m_fixture->child<QLabel>("statusLabel"); }
@@ -154,6 +160,90 @@ void TestGroupRequests::failureOfALaterGroupLeavesThePicture()
     QVERIFY(!status().isVisible());
     QTRY_COMPARE(m_fixture->toasts(), QStringList{QStringLiteral("none")});
     QVERIFY(!status().isVisible());
+}
+
+// ---- Closing ----
+
+void TestGroupRequests::closingDropsTheApplication()
+{
+    m_fixture->window->show();
+    m_fixture->server.setAnswer(grantedAnswer(Three));
+    m_fixture->server.hold();
+    m_fixture->window->setDevices(devicesOf(Three));
+    QTRY_COMPARE(m_fixture->requests().size(), 1);
+    m_fixture->window->onBtnCloseClicked();
+    QTRY_VERIFY(!m_fixture->window);
+    m_fixture->server.release();
+    QCOMPARE(startedDevices(), QStringList());
+}
+
+// The device would stay the user's otherwise: the owner gives back only those that are in the group.
+void TestGroupRequests::closingKeepsARemoval()
+{
+    QVERIFY(m_fixture->open(Three));
+    m_fixture->server.hold();
+    emit m_fixture->tile(0)->removeController(true);
+    m_fixture->window->onBtnCloseClicked();
+    QVERIFY(!m_fixture->window->isVisible());
+    QTRY_COMPARE(m_fixture->requests().size(), 1);
+    QCOMPARE(m_fixture->body(0),
+        (QJsonObject{{QStringLiteral("service_ids"), QJsonArray{QStringLiteral("b")}},
+            {QStringLiteral("action_type"), QStringLiteral("device_unbind")}}));
+    // No session lasts as long as the service takes.
+    QVERIFY(m_fixture->window);
+    QTRY_COMPARE(countCalls(QStringLiteral("SWDataSource::~SWDataSource")), 3);
+    QTest::ignoreMessage(QtDebugMsg, "unbind devices success!");
+    m_fixture->server.release();
+    QTRY_VERIFY(!m_fixture->window);
+}
+
+void TestGroupRequests::closingKeepsASaving()
+{
+    QVERIFY(m_fixture->open(Three));
+    m_fixture->server.hold();
+    QSignalSpy updated(m_fixture->window, &GroupWindow::updateGroup);
+    m_fixture->window->onSaveGroup(QStringLiteral("Farm"));
+    m_fixture->window->onRestartAllController();
+    m_fixture->window->onBtnCloseClicked();
+    QTRY_COMPARE(m_fixture->requests().size(), 2);
+    const QString first = m_fixture->body(0).value(QStringLiteral("action_type")).toString();
+    const QString second = m_fixture->body(1).value(QStringLiteral("action_type")).toString();
+    QVERIFY(QStringList({first, second}).contains(QStringLiteral("create")));
+    QCOMPARE(updated.size(), 0);
+    m_fixture->server.release();
+    QTRY_VERIFY(!m_fixture->window);
+    QCOMPARE(updated.size(), 1); // the page shows the new group
+}
+
+void TestGroupRequests::closedWindowGoesAfterAFailure()
+{
+    QVERIFY(m_fixture->open(Three));
+    m_fixture->server.hold();
+    m_fixture->window->onSaveGroup(QStringLiteral("Farm"));
+    QTRY_COMPARE(m_fixture->requests().size(), 1);
+    m_fixture->window->close();
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("^save group failed, error msg ---> .+")));
+    m_fixture->server.setAnswer("{}", 500);
+    m_fixture->server.release();
+    QTRY_VERIFY(!m_fixture->window);
+}
+
+void TestGroupRequests::savingOfAnEarlierGroup()
+{
+    QVERIFY(m_fixture->open(Three));
+    GroupController &window = *m_fixture->window;
+    m_fixture->server.setAnswer(grantedAnswer({QStringLiteral("x")}));
+    m_fixture->server.hold();
+    QSignalSpy updated(&window, &GroupWindow::updateGroup);
+    window.onSaveGroup(QStringLiteral("Farm"));
+    window.setDevices(devicesOf({QStringLiteral("x")}));
+    window.setGroupName(QStringLiteral("Ranch"));
+    QTRY_COMPARE(m_fixture->requests().size(), 2);
+    m_fixture->server.release();
+    QTRY_COMPARE(m_fixture->master(), QStringLiteral("x"));
+    QTRY_COMPARE(updated.size(), 1); // it is saved all the same
+    QCOMPARE(window.groupName(), QStringLiteral("Ranch"));
 }
 
 QTEST_MAIN(TestGroupRequests)
