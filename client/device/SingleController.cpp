@@ -196,13 +196,13 @@ void SingleController::onDeviceApplied(const QJsonValue &data)
 void SingleController::onApplyRefused(int code, const QString &message)
 {
     qWarning().noquote().nospace() << "single controller apply device failed, error code ---> " << code;
-    showToast(message);
+    showToast(HttpHelper::failureText(message));
 }
 
 void SingleController::onApplyFailed(const QString &error)
 {
     qWarning().noquote().nospace() << "single controller apply device failed, error msg ---> " << error;
-    showToast(error);
+    showToast(HttpHelper::failureText());
 }
 
 // One at a time: the newest takes the place of the one before.

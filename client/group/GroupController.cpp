@@ -61,6 +61,11 @@ QJsonObject batchBody(const char *action, const QStringList &serviceIds)
         {QStringLiteral("action_type"), QLatin1String(action)}};
 }
 
+QString jsonText(const QJsonObject &body)
+{
+    return QString::fromUtf8(QJsonDocument(body).toJson());
+}
+
 // Which key it is, whatever the layout makes of it; what does not come from a keyboard has no code of one.
 int deviceKeyCodeOf(const QKeyEvent &event)
 {
@@ -168,33 +173,70 @@ void GroupController::connectPanels()
 void GroupController::post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
     const FailureCallback &onFailure)
 {
-    if (!m_httpHelper)
-        m_httpHelper = new HttpHelper(this);
-    m_httpHelper->post(
-        HttpHelper::apiBaseUrl() + QLatin1String(path), QString::fromUtf8(QJsonDocument(body).toJson()),
-        [onSuccess, onFailure](const ResponseData &response) {
+    ++m_unanswered;
+    httpHelper().post(
+        HttpHelper::apiBaseUrl() + QLatin1String(path), jsonText(body),
+        [this, onSuccess, onFailure](const ResponseData &response) {
+            countAnswer();
             if (response.code == Contract::SuccessCode)
                 onSuccess(response.data);
             else
                 onFailure(response.msg);
         },
-        onFailure);
+        [this, onFailure](const QString &error) {
+            countAnswer();
+            onFailure(error);
+        });
 }
 
-// An answer for an earlier group would not fit this one: requests under way are dropped.
+void GroupController::countAnswer()
+{
+    --m_unanswered;
+    if (m_leaving && m_unanswered == 0)
+        deleteLater();
+}
+
+HttpHelper &GroupController::httpHelper()
+{
+    if (!m_httpHelper)
+        m_httpHelper = new HttpHelper(this);
+    return *m_httpHelper;
+}
+
+// The grants for an earlier group would not fit this one.
 void GroupController::setDevices(const group::GroupDevices &devices)
 {
-    delete m_httpHelper;
-    m_httpHelper = nullptr;
+    ++m_groupNumber;
     m_serviceIds = devices.keys();
-    post(
-        Contract::BatchAction, batchBody("device_apply", m_serviceIds),
-        [this, devices](const QJsonValue &data) { onDevicesApplied(devices, data); },
-        [this](const QString &message) {
-            qWarning().noquote().nospace() << "batchActionDevice devcie_apply request failed!"
-                                           << "\nresponse data --> " << message;
-            showToast(message);
-        });
+    if (!devices.isEmpty())
+        m_mainController->showConnecting();
+    applyForDevices(devices);
+}
+
+// What the service says is shown to the user; an error on the way to it is for the log.
+void GroupController::applyForDevices(const group::GroupDevices &devices)
+{
+    delete m_applyHelper;
+    m_applyHelper = new HttpHelper(this);
+    m_applyHelper->post(
+        HttpHelper::apiBaseUrl() + QLatin1String(Contract::BatchAction),
+        jsonText(batchBody("device_apply", m_serviceIds)),
+        [this, devices](const ResponseData &response) {
+            if (response.code == Contract::SuccessCode)
+                onDevicesApplied(devices, response.data);
+            else
+                onApplyFailed(response.msg, HttpHelper::failureText(response.msg));
+        },
+        [this](const QString &error) { onApplyFailed(error, HttpHelper::failureText()); });
+}
+
+// The message stays in the place of the picture when the toast has gone.
+void GroupController::onApplyFailed(const QString &logged, const QString &shown)
+{
+    qWarning().noquote().nospace() << "batchActionDevice devcie_apply request failed!"
+                                   << "\nresponse data --> " << logged;
+    m_mainController->showFailure(shown);
+    showToast(shown);
 }
 
 void GroupController::onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data)
@@ -225,8 +267,9 @@ void GroupController::onSaveGroup(const QString &groupName)
         {QStringLiteral("service_ids"), QJsonArray::fromStringList(m_serviceIds)}};
     post(
         Contract::GroupAction, body,
-        [this, groupName](const QJsonValue &) {
-            setGroupName(groupName);
+        [this, groupName, groupNumber = m_groupNumber](const QJsonValue &) {
+            if (groupNumber == m_groupNumber)
+                setGroupName(groupName);
             emit updateGroup();
             qDebug().noquote() << "save group success";
         },
@@ -452,11 +495,23 @@ void GroupController::closeEvent(QCloseEvent *event)
 {
     if (event->spontaneous())
         emit sigCloseBtnClicked();
-    delete m_httpHelper; // its answers must not start anything in a closed window
-    m_httpHelper = nullptr;
+    delete m_applyHelper; // its answer must not start anything in a closed window
+    m_applyHelper = nullptr;
     releaseHeldKeys();
     m_mainController->stopStream();
     if (m_toast)
         m_toast->close();
+    if (m_unanswered > 0)
+        stayUntilAnswered();
     GroupWindow::closeEvent(event);
+}
+
+// A group that is being saved or a device that is being given back would be lost with the request. No session
+// lasts that long.
+void GroupController::stayUntilAnswered()
+{
+    m_leaving = true;
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    if (m_subControlPage->controllerCount() > 0)
+        m_subControlPage->setDevices({});
 }

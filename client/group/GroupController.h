@@ -32,7 +32,8 @@ struct ExpiryNotice;
 // be applied for is shown as well. Giving the devices back is its opener's business
 // (OvWindowBase::sigCloseBtnClicked), but for the ones that leave the group before.
 //
-// GUI thread; a top-level window without a parent that deletes itself when it is closed.
+// GUI thread; a top-level window without a parent that deletes itself when it is closed, though not before
+// the service has answered what it was asked to save, to restart or to take back.
 class GroupController : public GroupWindow
 {
     Q_OBJECT
@@ -86,9 +87,14 @@ private:
     void createContent();
     QWidget *createToolStrip();
     void connectPanels();
+    HttpHelper &httpHelper();
+    void countAnswer();
     void post(const char *path, const QJsonObject &body, const DataCallback &onSuccess,
         const FailureCallback &onFailure);
+    void applyForDevices(const group::GroupDevices &devices);
+    void stayUntilAnswered();
     void onDevicesApplied(const group::GroupDevices &devices, const QJsonValue &data);
+    void onApplyFailed(const QString &logged, const QString &shown);
     void reassignMaster(const QString &expiredId);
     QString noticeText(const group::ExpiryNotice &notice) const;
     void releaseHeldKeys();
@@ -99,7 +105,11 @@ private:
     QStringList m_serviceIds; // the master first
     QString m_groupName;
     HeldKeys m_heldKeys;
-    HttpHelper *m_httpHelper = nullptr; // child, made on first use; its end drops the requests under way
+    HttpHelper *m_applyHelper = nullptr; // child, of the newest devices; its end drops the request for them
+    HttpHelper *m_httpHelper = nullptr; // child, made on first use; of all other requests
+    int m_unanswered = 0; // requests of m_httpHelper
+    int m_groupNumber = 0; // how often setDevices has been called
+    bool m_leaving = false; // closed; is deleted with the last answer
     QToolButton *m_saveButton = nullptr; // children
     MainController *m_mainController = nullptr;
     SubControlPage *m_subControlPage = nullptr;

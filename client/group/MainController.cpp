@@ -18,6 +18,7 @@ constexpr QSize SmallestContainer(355, 625);
 constexpr int MarginsX = 35; // beside the video, both together
 constexpr double LandscapeHeight = 0.568; // of the width
 constexpr int StatusPixels = 13;
+constexpr int StatusMargin = 16; // around a message of several lines
 constexpr int NamePixels = 12;
 constexpr int NameTop = 4; // from the upper edge of the video
 constexpr int NamePaddingX = 10;
@@ -70,6 +71,9 @@ void MainController::createVideo()
     m_nameLabel->hide();
     m_statusLabel->setObjectName(QStringLiteral("statusLabel"));
     m_statusLabel->setAlignment(Qt::AlignCenter);
+    m_statusLabel->setTextFormat(Qt::PlainText);
+    m_statusLabel->setWordWrap(true);
+    m_statusLabel->setMargin(Look::StatusMargin);
     m_statusLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_statusLabel->setStyleSheet(
         QStringLiteral("QLabel { color: #333333; font-size: %1px; }").arg(Look::StatusPixels));
@@ -80,7 +84,7 @@ void MainController::createVideo()
 void MainController::setTexts()
 {
     //: State of the master device of a group whose picture is on its way.
-    m_statusLabel->setText(tr("Connecting"));
+    m_statusLabel->setText(m_failure.isEmpty() ? tr("Connecting") : m_failure);
 }
 
 void MainController::changeEvent(QEvent *event)
@@ -120,11 +124,33 @@ void MainController::setDevice(const group::GroupDevice &device)
         m_videoView->setFocus();
 }
 
+void MainController::showConnecting()
+{
+    m_failure.clear();
+    if (m_device.serviceId.isEmpty())
+        showStatus();
+}
+
+void MainController::showFailure(const QString &message)
+{
+    if (!m_device.serviceId.isEmpty())
+        return;
+    m_failure = message;
+    showStatus();
+}
+
+void MainController::showStatus()
+{
+    setTexts();
+    m_statusLabel->show();
+    m_statusLabel->raise();
+}
+
 void MainController::forgetPicture()
 {
     m_stream->stopStream();
-    m_statusLabel->show();
-    m_statusLabel->raise();
+    m_failure.clear();
+    showStatus();
     if (!m_videoView)
         return;
     m_videoView->forgetPicture();

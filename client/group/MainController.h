@@ -36,6 +36,10 @@ public:
     QString serviceId() const { return m_device.serviceId; }
     // The master and the tile's device change places. Nothing without a master.
     void setMainController(SubController *controller);
+    // What stands in the place of the picture before the first device: that it is being waited for, or why it
+    // does not come. Nothing once there is a device.
+    void showConnecting();
+    void showFailure(const QString &message);
     // Connects to the device anew; nothing without one.
     void restartStream();
     void stopStream();
@@ -66,16 +70,18 @@ private:
     void startStream();
     void forgetPicture();
     void setTexts();
+    void showStatus();
     void showName();
     void layOutVideo();
     QSize videoSize() const;
 
     group::GroupDevice m_device;
+    QString m_failure; // why there is no device; empty otherwise
     ScreenOrientation m_orientation = ScreenOrientation::Portrait;
     std::shared_ptr<StreamController> m_stream;
     QWidget *m_videoContainer; // children
     QPointer<VideoView> m_videoView;
     QLabel *m_nameLabel;
-    QLabel *m_statusLabel; // until the device's first picture
+    QLabel *m_statusLabel; // until the first picture of the device
     FunctionBar *m_bar;
 };

@@ -77,6 +77,7 @@ SubControlPage::SubControlPage(QWidget *parent)
     createBar();
     createPageButtons();
     updateBar();
+    showTexts();
     m_clockTimer->setInterval(ClockIntervalMs);
     connect(m_clockTimer, &QTimer::timeout, this, &SubControlPage::updateRemainingTimes);
 }
@@ -105,6 +106,7 @@ void SubControlPage::setDevices(const QList<group::GroupDevice> &devices)
     m_batchThread->start();
     m_pageCount = pagesFor(m_controllers.size());
     m_currentPage = qMin(m_currentPage, m_pageCount);
+    m_shownPage = 0;
     createPageButtons();
     updateBar();
     showPage();
@@ -297,6 +299,7 @@ QList<SubController *> SubControlPage::tilesOfPage(int page) const
     return tiles;
 }
 
+// Another page begins at its top; one that has only lost a tile stays where it is scrolled to.
 void SubControlPage::showPage()
 {
     QList<QWidget *> widgets;
@@ -304,6 +307,9 @@ void SubControlPage::showPage()
     for (SubController *tile : tiles)
         widgets.append(tile);
     m_grid->setTiles(widgets);
+    if (m_currentPage != m_shownPage)
+        m_grid->scrollToTop();
+    m_shownPage = m_currentPage;
     showTexts();
     updateLiveTiles();
     updateRemainingTimes();

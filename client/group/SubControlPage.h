@@ -117,6 +117,7 @@ private:
 
     int m_currentPage = 1; // 1-based
     int m_pageCount = 1;
+    int m_shownPage = 0; // the one in the grid; 0 before the first tiles of a group
     bool m_onScreen = false;
     QList<QPointer<SubController>> m_controllers; // in the group's order; children of the grid
     QVector<QPushButton *> m_pageButtons; // children, one per page

@@ -90,6 +90,11 @@ void TileGrid::setTiles(const QList<QWidget *> &tiles)
     m_rows->addStretch();
 }
 
+void TileGrid::scrollToTop()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+}
+
 void TileGrid::takeTile(QWidget *tile)
 {
     if (m_tiles.removeAll(tile) == 0)

@@ -24,6 +24,7 @@ public:
     // Lays these tiles out, in this order, and shows them; those laid out before and not among them are
     // hidden.
     void setTiles(const QList<QWidget *> &tiles);
+    void scrollToTop();
     // Hides the tile, if it is laid out; the others move up at the next setTiles.
     void takeTile(QWidget *tile);
 

@@ -83,6 +83,14 @@ QNetworkReply *HttpHelper::post(
     return reply;
 }
 
+QString HttpHelper::failureText(const QString &serviceMessage)
+{
+    if (!serviceMessage.trimmed().isEmpty())
+        return serviceMessage;
+    //: The service could not be reached, or gave no reason.
+    return tr("The request failed. Please try again later.");
+}
+
 QNetworkAccessManager *HttpHelper::accessManager()
 {
     if (!m_accessManager)

@@ -41,6 +41,10 @@ public:
     QNetworkReply *post(const QString &url, const QString &body, const SuccessCallback &onSuccess,
         const ErrorCallback &onError);
 
+    // What the user is told of a request that failed: the service's own message, or, without one, a general
+    // sentence in the user's language. A network layer's error text is for the log.
+    static QString failureText(const QString &serviceMessage = QString());
+
     // The session's identity, empty until the web front end signs in. A change shows in the requests sent
     // from then on.
     static QString accessToken();

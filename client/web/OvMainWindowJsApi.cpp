@@ -275,6 +275,7 @@ void OvMainWindowJsApi::onCloseGroupControlWnd()
         {QStringLiteral("action_type"), Contract::unbind}};
     httpHelper()->post(HttpHelper::apiBaseUrl() + Contract::batchDeviceAction,
         QString::fromUtf8(QJsonDocument(body).toJson()), nullptr, nullptr);
+    m_groupWindow.clear(); // it may wait for an answer of the service before it goes
 }
 
 void OvMainWindowJsApi::showRenewWnd(const Context &context)

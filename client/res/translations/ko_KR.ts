@@ -97,6 +97,14 @@
     </message>
 </context>
 <context>
+    <name>HttpHelper</name>
+    <message>
+        <source>The request failed. Please try again later.</source>
+        <extracomment>The service could not be reached, or gave no reason.</extracomment>
+        <translation>요청에 실패했습니다. 잠시 후 다시 시도해 주세요.</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>

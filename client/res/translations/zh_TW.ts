@@ -97,6 +97,14 @@
     </message>
 </context>
 <context>
+    <name>HttpHelper</name>
+    <message>
+        <source>The request failed. Please try again later.</source>
+        <extracomment>The service could not be reached, or gave no reason.</extracomment>
+        <translation>請求失敗，請稍後重試。</translation>
+    </message>
+</context>
+<context>
     <name>KeyMapControls</name>
     <message>
         <source>Please Select Auxiliary Key</source>

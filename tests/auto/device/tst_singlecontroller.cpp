@@ -32,6 +32,7 @@ private slots:
     void granted();
     void grantedWithoutAnything();
     void refused();
+    void refusedWithoutAMessage();
     void transportError_data();
     void transportError();
     void refusedWindowMayBeAskedAgain();
@@ -207,6 +208,17 @@ void tst_SingleController::refused()
     QCOMPARE(takeCalls(), QStringList());
 }
 
+void tst_SingleController::refusedWithoutAMessage()
+{
+    m_server->setAnswer("{}");
+    QTest::ignoreMessage(QtWarningMsg, "single controller apply device failed, error code ---> 0");
+    m_window->show();
+    m_window->applyDevice();
+    QTRY_VERIFY(m_window->findChild<OvToast *>());
+    QCOMPARE(m_window->findChild<OvToast *>()->text(),
+        QStringLiteral("The request failed. Please try again later."));
+}
+
 void tst_SingleController::transportError_data()
 {
     QTest::addColumn<bool>("dropped");
@@ -224,7 +236,8 @@ void tst_SingleController::transportError()
     m_window->show();
     m_window->applyDevice();
     QTRY_VERIFY(m_window->findChild<OvToast *>());
-    QVERIFY(!m_window->findChild<OvToast *>()->text().isEmpty());
+    QCOMPARE(m_window->findChild<OvToast *>()->text(),
+        QStringLiteral("The request failed. Please try again later."));
     QVERIFY(m_window->findChild<LoadingPage *>()->isVisible());
     QCOMPARE(takeCalls(), QStringList());
 }

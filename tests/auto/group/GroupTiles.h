@@ -8,10 +8,22 @@
 #include <Recorder.h>
 
 #include <QImage>
+#include <QMetaMethod>
 #include <QStringList>
 
 // What the tests of a group's tiles share.
 namespace grouptest {
+
+// The signatures of the class's own signals or slots, in the order in which they are declared.
+inline QStringList ownMethods(const QMetaObject &meta, QMetaMethod::MethodType type)
+{
+    QStringList names;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == type)
+            names << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    return names;
+}
 
 // What the SDK was asked to do so far and not taken yet; not what it was only asked for.
 inline QStringList recordedCalls(std::vector<std::string> calls)

@@ -12,6 +12,8 @@
 #include <QHBoxLayout>
 #include <QNetworkReply>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 #include <memory>
@@ -65,6 +67,9 @@ protected:
     {
         return m_page->findChildren<QPushButton *>(QStringLiteral("pageButton"));
     }
+
+    // Of the grid's rows.
+    QScrollBar &scrollBar() const { return *m_page->findChild<QScrollArea *>()->verticalScrollBar(); }
 
     QStringList shownTiles() const
     {

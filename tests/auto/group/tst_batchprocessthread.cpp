@@ -69,6 +69,7 @@ class tst_BatchProcessThread : public QObject
 private slots:
     void init();
     void cleanup();
+    void whatAnEventLeavesOut();
     void replaysInOrder();
     void keepsTheOrderOfTheTiles();
     void ignoresWhatItDoesNotKnow();
@@ -130,6 +131,39 @@ void tst_BatchProcessThread::start(int tiles)
     setTiles(m_tiles);
     m_thread->start();
     takeCalls();
+}
+
+void tst_BatchProcessThread::whatAnEventLeavesOut()
+{
+    const InputEvent none;
+    QCOMPARE(none.code, -1);
+    QCOMPARE(none.keyState, 0);
+    QCOMPARE(none.percentX, -1.0F);
+    QCOMPARE(none.percentY, -1.0F);
+    QVERIFY(none.text.isEmpty());
+    const InputEvent key = InputEvent::key(30, InputEvent::KeyRelease);
+    QCOMPARE(key.type, 1);
+    QCOMPARE(key.code, 30);
+    QCOMPARE(key.keyState, 2);
+    QCOMPARE(key.percentX, -1.0F);
+    QCOMPARE(key.percentY, -1.0F);
+    QVERIFY(key.text.isEmpty());
+    QCOMPARE(int(InputEvent::FunctionButton), 0);
+    QCOMPARE(int(InputEvent::KeyPress), 1);
+    const InputEvent text = InputEvent::typed(QStringLiteral("hello"));
+    QCOMPARE(text.type, 2);
+    QCOMPARE(text.code, -1);
+    QCOMPARE(text.keyState, 0);
+    QCOMPARE(text.percentX, -1.0F);
+    QCOMPARE(text.percentY, -1.0F);
+    QCOMPARE(text.text, QStringLiteral("hello"));
+    const InputEvent touch = InputEvent::touch(2, 0.5F, 0.25F);
+    QCOMPARE(touch.type, 0);
+    QCOMPARE(touch.code, 2);
+    QCOMPARE(touch.keyState, 0);
+    QCOMPARE(touch.percentX, 0.5F);
+    QCOMPARE(touch.percentY, 0.25F);
+    QVERIFY(touch.text.isEmpty());
 }
 
 void tst_BatchProcessThread::replaysInOrder()

@@ -50,8 +50,6 @@ private slots:
     void appliesForTheDevices();
     void groupOfOne();
     void emptyGroup();
-    void applyFails_data();
-    void applyFails();
     void laterDevicesReplaceEarlierOnes();
     void restartAll();
     void restartAllFails();
@@ -241,41 +239,6 @@ void TestGroupController::emptyGroup()
     m_fixture->window->onSaveGroup(QStringLiteral("x"));
     QVERIFY(saved.wait());
     QCOMPARE(m_fixture->master(), QString());
-}
-
-void TestGroupController::applyFails_data()
-{
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("error");
-    QTest::newRow("refused") << refusal("no device can be had") << 200
-                             << QStringLiteral("no device can be had");
-    QTest::newRow("server error") << QByteArray("{}") << 500
-                                  << QStringLiteral("Error transferring %1%2 - server replied: ");
-}
-
-void TestGroupController::applyFails()
-{
-    QFETCH(QByteArray, answer);
-    QFETCH(int, status);
-    QFETCH(QString, error);
-    if (error.contains(QLatin1Char('%')))
-        error = error.arg(m_fixture->server.baseUrl(), QString::fromLatin1(BatchPath));
-    GroupController &window = *m_fixture->window;
-    window.show();
-    m_fixture->server.setAnswer(answer, status);
-    QTest::ignoreMessage(QtWarningMsg,
-        QRegularExpression(
-            QStringLiteral("^batchActionDevice devcie_apply request failed!\nresponse data --> ")
-            + QRegularExpression::escape(error)));
-    window.setDevices(devicesOf(Three));
-    QTRY_COMPARE(m_fixture->toasts().size(), 1);
-    QVERIFY2(m_fixture->toasts().first().startsWith(error), qPrintable(m_fixture->toasts().first()));
-    QVERIFY(window.isVisible());
-    QCOMPARE(m_fixture->master(), QString());
-    QCOMPARE(startedDevices(), QStringList());
-    QCOMPARE(window.serviceIds(), Three); // for the owner to give back
-    m_fixture->server.setAnswer("{}");
 }
 
 void TestGroupController::laterDevicesReplaceEarlierOnes()

@@ -52,6 +52,7 @@ private slots:
     void sameRotationDoesNothing();
     void bar();
     void buttons();
+    void textsAreWhite();
     void textsWithoutRoom();
     void startsTheStream();
     void restart();
@@ -196,6 +197,29 @@ void TestMainController::buttons()
             QStringLiteral("SWDataSource::sendKeyEvent(3, 158)"),
             QStringLiteral("SWDataSource::sendKeyEvent(3, 172)"),
             QStringLiteral("SWDataSource::sendKeyEvent(3, 139)")}));
+}
+
+// On buttons that have no ground of their own.
+void TestMainController::textsAreWhite()
+{
+    FunctionBar bar;
+    bar.setFixedWidth(900);
+    bar.show();
+    const QImage picture = bar.grab().toImage();
+    for (const FunctionButton *button : bar.buttons()) {
+        QVERIFY(button->textPixels() > 0);
+        const QRect place = button->geometry();
+        QCOMPARE(picture.pixelColor(place.bottomLeft()), QColor(85, 85, 85));
+        int brightest = 0; // of the lower half, where the text stands
+        for (int y = place.center().y() + 2; y <= place.bottom(); ++y) {
+            for (int x = place.left(); x <= place.right(); ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                QVERIFY(qAbs(pixel.red() - pixel.blue()) < 3 && qAbs(pixel.red() - pixel.green()) < 3);
+                brightest = qMax(brightest, pixel.red());
+            }
+        }
+        QVERIFY2(brightest > 230, qPrintable(button->text()));
+    }
 }
 
 // Texts that are too long for the bar are tool tips.

@@ -37,6 +37,7 @@ class tst_SubController : public QObject
 private slots:
     void init();
     void cleanup();
+    void metaObject();
     void connectsPausedUnlessLive();
     void connectsAsAThumbnailWhenLive();
     void livesAndPauses();
@@ -95,6 +96,21 @@ void tst_SubController::cleanup()
 }
 
 // ---- Session ----
+
+void tst_SubController::metaObject()
+{
+    QCOMPARE(ownMethods(SubController::staticMetaObject, QMetaMethod::Signal),
+        (QStringList{QStringLiteral("setAsMainController()"), QStringLiteral("restartController()"),
+            QStringLiteral("removeController(bool)"), QStringLiteral("openSingleController()")}));
+    QCOMPARE(ownMethods(SubController::staticMetaObject, QMetaMethod::Slot),
+        (QStringList{QStringLiteral("onSubControlTouchEvent(int,float,float)"),
+            QStringLiteral("onInputEvent(QString)"), QStringLiteral("onFunctionBtnClicked(int)"),
+            QStringLiteral("onResizeSubController(QSize)"), QStringLiteral("onKeyPressEvent(int)"),
+            QStringLiteral("onKeyReleaseEvent(int)")}));
+    const QMetaObject &meta = SubController::staticMetaObject;
+    const QMetaMethod removal = meta.method(meta.indexOfSignal("removeController(bool)"));
+    QCOMPARE(removal.parameterNames(), QByteArrayList{"slient"}); // the name that the page knows
+}
 
 void tst_SubController::connectsPausedUnlessLive()
 {

@@ -4,16 +4,35 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QScrollArea>
+#include <QLayout>
 #include <QSignalSpy>
 
 using namespace grouptest;
+
+namespace {
+
+// Whether anything painted there is of this colour, but for a little blur at its edges.
+bool hasColour(const QImage &image, const QColor &colour)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (qAbs(pixel.red() - colour.red()) < 12 && qAbs(pixel.green() - colour.green()) < 12
+                && qAbs(pixel.blue() - colour.blue()) < 12)
+                return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 class tst_SubControlPage : public SubControlPageFixture
 {
     Q_OBJECT
 
 private slots:
+    void metaObject();
     void measures();
     void oneTileGoesIntoTheCorner();
     void fourTilesMakeARow();
@@ -25,7 +44,10 @@ private slots:
     void pagesOfFortyNine_data();
     void pagesOfFortyNine();
     void theBarLooksAsThePageSays();
+    void coloursOfTheBar();
     void turnsPages();
+    void anotherPageBeginsAtItsTop();
+    void otherDevicesBeginAtTheTop();
     void tilesKeepTheirOrder();
 
     void onlyTheShownPageIsLive();
@@ -35,12 +57,38 @@ private slots:
     void remainingTimesFollowTheClock();
 };
 
+void tst_SubControlPage::metaObject()
+{
+    QCOMPARE(ownMethods(SubControlPage::staticMetaObject, QMetaMethod::Signal),
+        (QStringList{QStringLiteral("subControlTouchEvent(int,float,float)"),
+            QStringLiteral("functionBtnClicked(int)"),
+            QStringLiteral("openSingleController(QString,QString)"),
+            QStringLiteral("setAsMainController(SubController*)"),
+            QStringLiteral("removeController(QString)"), QStringLiteral("sigResizeSubContoller(QSize)")}));
+    QCOMPARE(ownMethods(SubControlPage::staticMetaObject, QMetaMethod::Slot),
+        (QStringList{QStringLiteral("onPrePageBtnClicked()"), QStringLiteral("onNextPageBtnClicked()"),
+            QStringLiteral("onSetAsMainController()"), QStringLiteral("onRestartController()"),
+            QStringLiteral("onRemoveController(bool)"), QStringLiteral("onOpenSingleController()"),
+            QStringLiteral("onSubControlTouchEvent(int,float,float)"),
+            QStringLiteral("onInputEvent(QString)"), QStringLiteral("onFunctionBtnClicked(int)"),
+            QStringLiteral("onKeyPressEvent(int)"), QStringLiteral("onKeyReleaseEvent(int)"),
+            QStringLiteral("onUpdatePageBtn()")}));
+    const QMetaObject &meta = SubControlPage::staticMetaObject;
+    const QMetaMethod removal = meta.method(meta.indexOfSlot("onRemoveController(bool)"));
+    QCOMPARE(removal.parameterNames(), QByteArrayList{"slient"}); // the name that the callers know
+}
+
 // ---- Grid ----
 
 void tst_SubControlPage::measures()
 {
     QCOMPARE(m_page->minimumSize(), QSize(775, 660));
     QCOMPARE(SubControlPage::perPage, 50);
+    // The bar has its texts before the first devices.
+    QCOMPARE(child<QComboBox>("perPageBox")->currentText(), QStringLiteral("50/page"));
+    QCOMPARE(child<QLabel>("totalLabel")->text(), QStringLiteral("Total 1"));
+    QCOMPARE(child<QPushButton>("prevButton")->accessibleName(), QStringLiteral("Previous page"));
+    QCOMPARE(child<QPushButton>("nextButton")->accessibleName(), QStringLiteral("Next page"));
     m_page->setDevices(devices(1));
     QCOMPARE(child<QLabel>("totalLabel")->parentWidget()->height(), 35);
     QCOMPARE(child<QComboBox>("perPageBox")->size(), QSize(100, 25));
@@ -169,6 +217,29 @@ void tst_SubControlPage::theBarLooksAsThePageSays()
     QVERIFY(shows("nextButton", ":/icon/svg/right_disabled.svg"));
 }
 
+void tst_SubControlPage::coloursOfTheBar()
+{
+    m_page->setDevices(devices(99));
+    auto *total = child<QLabel>("totalLabel");
+    QCOMPARE(total->palette().color(QPalette::WindowText), QColor(217, 108, 108));
+    QVERIFY(hasColour(total->grab().toImage(), QColor(217, 108, 108)));
+    QCOMPARE(total->parentWidget()->layout()->spacing(), 8);
+    const QList<QPushButton *> pages = pageButtons();
+    QTRY_COMPARE(pages.at(1)->x() - pages.at(0)->x(), 25 + 8);
+    QCOMPARE(pages.at(0)->x() - child<QPushButton>("prevButton")->x(), 25 + 8);
+    QCOMPARE(child<QPushButton>("nextButton")->x() - pages.at(2)->x(), 25 + 8);
+    QVERIFY(hasColour(pages.at(0)->grab().toImage(), Qt::white));
+    QVERIFY(!hasColour(pages.at(1)->grab().toImage(), Qt::white));
+    QCOMPARE(pages.at(0)->cursor().shape(), Qt::ForbiddenCursor);
+    QCOMPARE(pages.at(1)->cursor().shape(), Qt::PointingHandCursor);
+    QCOMPARE(pages.at(2)->cursor().shape(), Qt::PointingHandCursor);
+    // The text takes the selected style with it.
+    QTest::mouseClick(pages.at(1), Qt::LeftButton);
+    QVERIFY(!hasColour(pages.at(0)->grab().toImage(), Qt::white));
+    QVERIFY(hasColour(pages.at(1)->grab().toImage(), Qt::white));
+    QCOMPARE(pages.at(0)->cursor().shape(), Qt::PointingHandCursor);
+}
+
 void tst_SubControlPage::turnsPages()
 {
     m_page->setDevices(devices(99));
@@ -187,6 +258,34 @@ void tst_SubControlPage::turnsPages()
     QCOMPARE(m_page->currentPage(), 2);
     m_page->onUpdatePageBtn(); // of nobody's button
     QCOMPARE(m_page->currentPage(), 2);
+}
+
+void tst_SubControlPage::anotherPageBeginsAtItsTop()
+{
+    m_page->setDevices(devices(99));
+    QScrollBar &bar = scrollBar();
+    QTRY_VERIFY(bar.maximum() > 0);
+    bar.setValue(bar.maximum());
+    m_page->onNextPageBtnClicked();
+    QTest::qWait(0); // the rows are laid out
+    QVERIFY(bar.maximum() > 0);
+    QCOMPARE(bar.value(), 0);
+    // The button of the page that is shown turns to no other page.
+    bar.setValue(100);
+    pageButtons().at(1)->click();
+    QTest::qWait(0);
+    QCOMPARE(bar.value(), 100);
+}
+
+void tst_SubControlPage::otherDevicesBeginAtTheTop()
+{
+    m_page->setDevices(devices(49));
+    QScrollBar &bar = scrollBar();
+    QTRY_VERIFY(bar.maximum() > 0);
+    bar.setValue(bar.maximum());
+    m_page->setDevices(devices(49));
+    QTest::qWait(0);
+    QCOMPARE(bar.value(), 0);
 }
 
 void tst_SubControlPage::tilesKeepTheirOrder()

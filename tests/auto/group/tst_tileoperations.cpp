@@ -10,7 +10,6 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QRegularExpression>
-#include <QScrollArea>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -32,7 +31,10 @@ private slots:
     void theLastTileStays();
     void theLastTileGoesSilently();
     void removalOfTheOnlyTileOfTheLastPage();
+    void removalOfAPageMovesToTheLast();
     void removalMovesTheOthersUp();
+    void removalKeepsTheScrollPosition();
+    void removalOfAPageThatIsNotShown();
     void removalOfTheLastRow();
     void removalOfWhatIsNoLongerThere();
     void removedTilesGetNoInput();
@@ -123,6 +125,57 @@ void tst_TileOperations::removalOfTheOnlyTileOfTheLastPage()
     QCOMPARE(shownTiles().last(), QStringLiteral("100098"));
     QVERIFY(m_page->controllerAt(97)->isLive());
     QCOMPARE(child<QLabel>("totalLabel")->text(), QStringLiteral("Total 99"));
+}
+
+// The view goes to the page that is the last one then, whichever was shown.
+void tst_TileOperations::removalOfAPageMovesToTheLast()
+{
+    m_page->setDevices(devices(99));
+    QCOMPARE(m_page->currentPage(), 1);
+    QTRY_VERIFY(scrollBar().maximum() > 100);
+    scrollBar().setValue(100);
+    emit m_page->controllerAt(0)->removeController(true);
+    QCOMPARE(m_page->pageCount(), 2);
+    QCOMPARE(m_page->currentPage(), 2);
+    QCOMPARE(pageButtons().size(), 2);
+    QVERIFY(pageButtons().at(1)->property("current").toBool());
+    QVERIFY(!pageButtons().at(0)->property("current").toBool());
+    QCOMPARE(shownTiles().size(), 49);
+    QCOMPARE(shownTiles().first(), QStringLiteral("100051"));
+    QCOMPARE(shownTiles().last(), QStringLiteral("100099"));
+    QTest::qWait(0); // the rows are laid out
+    QCOMPARE(scrollBar().value(), 0);
+}
+
+void tst_TileOperations::removalKeepsTheScrollPosition()
+{
+    m_page->setDevices(devices(13));
+    QScrollBar &bar = scrollBar();
+    const auto *content = m_page->findChild<QScrollArea *>()->widget();
+    QTRY_COMPARE(content->height(), 24 + 4 * 295 + 3 * 22 + 24);
+    bar.setValue(bar.maximum());
+    const int before = bar.value();
+    emit m_page->controllerAt(0)->removeController(true); // and with it the last row
+    QTRY_COMPARE(content->height(), 24 + 3 * 295 + 2 * 22 + 24);
+    QCOMPARE(bar.value(), before - 295 - 22);
+    QCOMPARE(bar.value(), bar.maximum());
+    bar.setValue(100);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    emit m_page->controllerAt(0)->removeController(true);
+    QTRY_COMPARE(m_page->controllerAt(0)->mapTo(m_page, QPoint(0, 0)), QPoint(15, 24 - 100));
+    QCOMPARE(bar.value(), 100);
+}
+
+void tst_TileOperations::removalOfAPageThatIsNotShown()
+{
+    m_page->setDevices(devices(50));
+    QScrollBar &bar = scrollBar();
+    QTRY_VERIFY(bar.maximum() > 500);
+    bar.setValue(500);
+    emit m_page->controllerAt(0)->removeController(true);
+    QCOMPARE(m_page->pageCount(), 1);
+    QTRY_COMPARE(m_page->controllerAt(0)->mapTo(m_page, QPoint(0, 0)), QPoint(15, 24 - 500));
+    QCOMPARE(bar.value(), 500);
 }
 
 void tst_TileOperations::removalMovesTheOthersUp()

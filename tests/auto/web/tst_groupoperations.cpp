@@ -83,6 +83,7 @@ private slots:
     void groupCanBeOpenedAgainAfterItsClose();
     void expiryReachesTheGroup();
     void expiryWithoutAGroup();
+    void expiryAfterTheClose();
     void closedSingleWindowOfTheGroupIsNotGivenBack();
     void closedSingleWindowOutsideTheGroupIsGivenBack();
     void savedGroupsAreLoadedAgain();
@@ -246,6 +247,18 @@ void TestGroupOperations::expiryWithoutAGroup()
 {
     m_api->callJsApi(QStringLiteral(R"({"jsApiName":"showRenewWnd","params":{"service_id":"a"}})"));
     m_api->callJsApi(QStringLiteral(R"({"jsApiName":"deviceExpiration"})"));
+    QVERIFY(m_log.isEmpty());
+}
+
+// The window may still be there, waiting for an answer of the service.
+void TestGroupOperations::expiryAfterTheClose()
+{
+    openGroup({QStringLiteral("a")});
+    m_window->onBtnCloseClicked();
+    QVERIFY(m_window);
+    m_log.clear();
+    m_api->callJsApi(QStringLiteral(R"({"jsApiName":"showRenewWnd","params":{"service_id":"a"}})"));
+    m_api->callJsApi(QStringLiteral(R"({"jsApiName":"deviceExpiration","params":{"service_id":"a"}})"));
     QVERIFY(m_log.isEmpty());
 }
 
