@@ -26,8 +26,11 @@
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <chrono>
 
 namespace {
 
@@ -54,6 +57,8 @@ constexpr int SmallestToolPixels = 8;
 constexpr double MasterPart = 0.33; // of the content's width without the strip
 constexpr int ToastSeconds = 3;
 } // namespace Look
+
+constexpr std::chrono::seconds LongestAnswer{30}; // that a closed window waits for
 
 QJsonObject batchBody(const char *action, const QStringList &serviceIds)
 {
@@ -507,11 +512,15 @@ void GroupController::closeEvent(QCloseEvent *event)
 }
 
 // A group that is being saved or a device that is being given back would be lost with the request. No session
-// lasts that long.
+// lasts that long, and a service that never answers is not waited for.
 void GroupController::stayUntilAnswered()
 {
     m_leaving = true;
     setAttribute(Qt::WA_DeleteOnClose, false);
+    auto *limit = new QTimer(this);
+    limit->setObjectName(QStringLiteral("answerLimit"));
+    connect(limit, &QTimer::timeout, this, &QObject::deleteLater);
+    limit->start(LongestAnswer);
     if (m_subControlPage->controllerCount() > 0)
         m_subControlPage->setDevices({});
 }

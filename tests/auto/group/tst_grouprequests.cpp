@@ -33,6 +33,7 @@ private slots:
     void closingKeepsARemoval();
     void closingKeepsASaving();
     void closedWindowGoesAfterAFailure();
+    void closedWindowDoesNotWaitForEver();
     void savingOfAnEarlierGroup();
 
 private:
@@ -227,6 +228,21 @@ void TestGroupRequests::closedWindowGoesAfterAFailure()
     m_fixture->server.setAnswer("{}", 500);
     m_fixture->server.release();
     QTRY_VERIFY(!m_fixture->window);
+}
+
+void TestGroupRequests::closedWindowDoesNotWaitForEver()
+{
+    QVERIFY(m_fixture->open(Three));
+    m_fixture->server.hold();
+    m_fixture->window->onSaveGroup(QStringLiteral("Farm"));
+    QVERIFY(!m_fixture->window->findChild<QTimer *>(QStringLiteral("answerLimit")));
+    m_fixture->window->onBtnCloseClicked();
+    auto *limit = m_fixture->window->findChild<QTimer *>(QStringLiteral("answerLimit"));
+    QVERIFY(limit);
+    QCOMPARE(limit->intervalAsDuration(), std::chrono::milliseconds(30000));
+    limit->start(0);
+    QTRY_VERIFY(!m_fixture->window);
+    m_fixture->server.release();
 }
 
 void TestGroupRequests::savingOfAnEarlierGroup()
