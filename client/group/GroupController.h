@@ -33,7 +33,8 @@ struct ExpiryNotice;
 // (OvWindowBase::sigCloseBtnClicked), but for the ones that leave the group before.
 //
 // GUI thread; a top-level window without a parent that deletes itself when it is closed, though not before
-// the service has answered what it was asked to save, to restart or to take back.
+// the service has answered what it was asked to save, to restart or to take back, or half a minute has
+// passed.
 class GroupController : public GroupWindow
 {
     Q_OBJECT
@@ -109,7 +110,7 @@ private:
     HttpHelper *m_httpHelper = nullptr; // child, made on first use; of all other requests
     int m_unanswered = 0; // requests of m_httpHelper
     int m_groupNumber = 0; // how often setDevices has been called
-    bool m_leaving = false; // closed; is deleted with the last answer
+    bool m_leaving = false; // closed; is deleted with the last answer or when that takes too long
     QToolButton *m_saveButton = nullptr; // children
     MainController *m_mainController = nullptr;
     SubControlPage *m_subControlPage = nullptr;

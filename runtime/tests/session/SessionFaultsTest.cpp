@@ -105,9 +105,33 @@ struct PatientSession
     std::shared_ptr<Session> session;
 };
 
+class GatewayReturn : public SessionFixture
+{
+protected:
+    // A second session looks for the gateway in vain, which returns then: both sign in. `next`: what the
+    // patient one tells of its way there.
+    void expectBothBack(std::uint16_t port, PatientSession &patient, const std::string &next)
+    {
+        makeSession();
+        setLogin(port);
+        session->start();
+        EXPECT_EQ(listener.next(), "reconnecting 1");
+        TestGateway late(TestGateway::Kind::Plain, port);
+        peer = late.accept();
+        ASSERT_TRUE(peer);
+        EXPECT_EQ(peer->signIn().session_id(), "session-7");
+        const auto other = late.accept();
+        ASSERT_TRUE(other);
+        EXPECT_EQ(patient.listener.next(), next);
+        EXPECT_EQ(other->signIn().session_id(), "the patient");
+        EXPECT_EQ(patient.listener.next(), "connected");
+        session->stop();
+    }
+};
+
 } // namespace
 
-TEST_F(SessionFaults, GatewayThatIsBackForOneIsBackForAll)
+TEST_F(GatewayReturn, ForOneIsForAll)
 {
     std::uint16_t port = 0;
     {
@@ -117,24 +141,11 @@ TEST_F(SessionFaults, GatewayThatIsBackForOneIsBackForAll)
     PatientSession patient(port);
     patient.session->start();
     EXPECT_EQ(patient.listener.next(), "reconnecting 1"); // at once; it waits for an hour then
-    makeSession();
-    setLogin(port);
-    session->start();
-    EXPECT_EQ(listener.next(), "reconnecting 1");
-    TestGateway late(TestGateway::Kind::Plain, port);
-    peer = late.accept();
-    ASSERT_TRUE(peer);
-    EXPECT_EQ(peer->signIn().session_id(), "session-7");
-    const auto other = late.accept();
-    ASSERT_TRUE(other);
-    EXPECT_EQ(patient.listener.next(), "reconnecting 2");
-    EXPECT_EQ(other->signIn().session_id(), "the patient");
-    EXPECT_EQ(patient.listener.next(), "connected");
-    session->stop();
+    expectBothBack(port, patient, "reconnecting 2");
 }
 
 // Packets that were lost while the gateway was away are repeated ever more seldom.
-TEST_F(SessionFaults, TryThatIsStuckIsGivenUpWhenTheGatewayIsBack)
+TEST_F(GatewayReturn, EndsATryThatIsStuck)
 {
     using boost::asio::ip::tcp;
     boost::asio::io_context context;
@@ -144,20 +155,7 @@ TEST_F(SessionFaults, TryThatIsStuckIsGivenUpWhenTheGatewayIsBack)
     patient.session->start();
     const tcp::socket silent = listening.accept(); // and never says anything
     listening.close();
-    makeSession();
-    setLogin(port);
-    session->start();
-    EXPECT_EQ(listener.next(), "reconnecting 1");
-    TestGateway late(TestGateway::Kind::Plain, port);
-    peer = late.accept();
-    ASSERT_TRUE(peer);
-    EXPECT_EQ(peer->signIn().session_id(), "session-7");
-    const auto other = late.accept();
-    ASSERT_TRUE(other);
-    EXPECT_EQ(patient.listener.next(), "reconnecting 1");
-    EXPECT_EQ(other->signIn().session_id(), "the patient");
-    EXPECT_EQ(patient.listener.next(), "connected");
-    session->stop();
+    expectBothBack(port, patient, "reconnecting 1");
 }
 
 TEST_F(SessionFaults, GatewayThatAskedForTimeIsLeftItsTime)
