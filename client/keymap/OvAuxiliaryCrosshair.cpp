@@ -12,6 +12,8 @@ namespace {
 // Part of the way of the mouse that the finger goes at a sensitivity of 1.
 constexpr double FingerShare = 0.25;
 
+constexpr int SettleMs = 16;
+
 } // namespace
 
 OvAuxiliaryCrosshair::OvAuxiliaryCrosshair(KeyboardMapMgr *manager, QWidget *videoView)
@@ -19,6 +21,12 @@ OvAuxiliaryCrosshair::OvAuxiliaryCrosshair(KeyboardMapMgr *manager, QWidget *vid
         keymap::CrosshairKey, QStringLiteral(":/icon/svg/auxiliary_crosshair.svg"), manager, videoView)
 {
     createNoteEditor(true);
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(SettleMs);
+    connect(&m_settle, &QTimer::timeout, this, [this] {
+        if (m_cursor)
+            look();
+    });
 }
 
 OvAuxiliaryCrosshair::~OvAuxiliaryCrosshair()
@@ -98,6 +106,8 @@ void OvAuxiliaryCrosshair::stopLooking()
     m_needsRecentre = false;
 }
 
+// Qt drops a move that ends where the last one did, which a pointer that is put back in between does often:
+// what the mouse went last would wait for its next move.
 void OvAuxiliaryCrosshair::look()
 {
     const QPointF way = m_cursor->takeWay(centreOnScreen());
@@ -105,6 +115,7 @@ void OvAuxiliaryCrosshair::look()
     const double height = videoView()->height();
     if (way.isNull() || width <= 0 || height <= 0)
         return;
+    m_settle.start();
     if (screenOrientation() == ScreenOrientation::Portrait) {
         m_ax += way.x() / width;
         m_ay += way.y() / height;

@@ -2,6 +2,8 @@
 
 #include "keymap/OvAuxiliaryKey.h"
 
+#include <QTimer>
+
 #include <memory>
 
 class CapturedCursor;
@@ -43,6 +45,7 @@ private:
     void look();
 
     std::unique_ptr<CapturedCursor> m_cursor; // while mouse-look is on
+    QTimer m_settle; // runs out a frame after a look that found a way: looks once more
     double m_ax = 0; // how far the mouse has gone, as fractions of the view, in the device's portrait frame
     double m_ay = 0;
     double m_sensitivity = defaultSensitivity;

@@ -6,6 +6,7 @@
 #include "stream/VideoView.h"
 #include "widgets/OvTitleBarBase.h"
 
+#include <InputFocus.h>
 #include <Recorder.h>
 
 #include <QApplication>
@@ -105,7 +106,7 @@ public:
     {
         window->show();
         QApplication::setActiveWindow(window.get());
-        if (!QTest::qWaitForWindowActive(window.get()))
+        if (!waitForInputFocus(*window))
             return false;
         window->applyDevice();
         if (!QTest::qWaitFor([this] { return video()->isVisible(); }) || !video()->hasFocus())

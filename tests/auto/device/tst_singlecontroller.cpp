@@ -3,6 +3,8 @@
 #include "device/LoadingPage.h"
 #include "widgets/OvToast.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -95,7 +97,7 @@ void tst_SingleController::open()
 {
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForInputFocus(*m_window));
     m_window->applyDevice();
     QTRY_VERIFY(showsVideo());
     QVERIFY(video()->hasFocus());
@@ -339,7 +341,7 @@ void tst_SingleController::keysWhileLoading()
 {
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForInputFocus(*m_window));
     key(QEvent::KeyPress, Qt::Key_1, "1");
     key(QEvent::KeyRelease, Qt::Key_1, "1");
     QCOMPARE(takeCalls(), QStringList());

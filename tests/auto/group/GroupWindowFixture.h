@@ -10,6 +10,7 @@
 #include "widgets/OvMaskTipsDialog.h"
 #include "widgets/OvToast.h"
 
+#include <InputFocus.h>
 #include <Recorder.h>
 
 #include <QAbstractButton>
@@ -153,7 +154,7 @@ public:
         window->setDevices(devicesOf(ids));
         window->show();
         window->activateWindow();
-        if (!QTest::qWaitForWindowActive(window)
+        if (!waitForInputFocus(*window)
             || !QTest::qWaitFor([this] { return !window->mainController()->serviceId().isEmpty(); }))
             return false;
         takeCalls();

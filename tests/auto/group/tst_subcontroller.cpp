@@ -5,6 +5,8 @@
 #include "group/TileText.h"
 #include "stream/StreamController.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -86,7 +88,7 @@ void tst_SubController::init()
     m_tile->onResizeSubController(TileSize);
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForInputFocus(*m_window));
     m_window->setFocus();
 }
 

@@ -9,6 +9,7 @@
 #include "stream/VideoView.h"
 #include "widgets/OvToast.h"
 
+#include <InputFocus.h>
 #include <Recorder.h>
 
 #include <swplay/SWDataSource.h>
@@ -81,7 +82,7 @@ inline void KeyMapFixture::setUp()
 inline void KeyMapFixture::activate()
 {
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForInputFocus(*m_window));
     m_view->setFocus();
     QTRY_VERIFY(m_view->hasFocus());
 }

@@ -26,6 +26,7 @@ private slots:
     void putsTheFingerDownAnewAtTheEdge();
     void movesOfThePointerBackDoNotCount();
     void keepsUpWithAFastMouse();
+    void seesAMoveThatEndsWhereTheLastOneDid();
     void losesNothingOfAMouseThatMovesMeanwhile();
     void pullsThePointerBackIntoTheView();
     void firesWhileLooking();
@@ -167,6 +168,26 @@ void TestOvAuxiliaryCrosshair::keepsUpWithAFastMouse()
     QCOMPARE(m_sent.last(), QString("2: 360,%1").arg(static_cast<int>(end.y())));
     QCoreApplication::processEvents(); // what the display has to tell about all this
     QCOMPARE(m_sent.size(), 1000);
+}
+
+// The display tells of two moves to the same place, and Qt, unless it saw the pointer put back between them,
+// of the first only.
+void TestOvAuxiliaryCrosshair::seesAMoveThatEndsWhereTheLastOneDid()
+{
+    press(Qt::Key_R);
+    for (int i = 0; i < 10; ++i) {
+        const QPoint place = centre() + QPoint(i % 2 == 0 ? 34 : -34, 0);
+        QMetaObject::Connection once;
+        once = connect(m_key, &OvAuxiliaryKey::sigAuxiliaryKeyAction, this, [&once, place] {
+            disconnect(once);
+            QCursor::setPos(place);
+        });
+        takeSent();
+        QCursor::setPos(place);
+        QTRY_COMPARE(m_sent.size(), 2);
+        QCOMPARE(m_sent.last(), i % 2 == 0 ? "2: 428,640" : "2: 360,640");
+        QCOMPARE(QCursor::pos(), centre());
+    }
 }
 
 // The pointer goes on while it is looked at and put back: another program moves it for real.
