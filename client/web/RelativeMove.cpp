@@ -3,23 +3,26 @@
 #include <QWidget>
 
 namespace {
-constexpr qint64 SettledAfterMs = 1000; // reports come well before that, also on a busy machine
+constexpr int SettledAfterMs = 1000; // reports come well before that, also on a busy machine
 }
 
 RelativeMove::RelativeMove(QWidget *window)
     : m_window(window)
-{ }
+{
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(SettledAfterMs);
+}
 
 void RelativeMove::moveBy(const QPoint &offset)
 {
-    if (!m_sinceMove.isValid() || m_sinceMove.hasExpired(SettledAfterMs))
+    if (!m_settle.isActive())
         m_target = m_window->pos();
     m_target += offset;
-    m_sinceMove.restart();
+    m_settle.start();
     m_window->move(m_target);
 }
 
 void RelativeMove::reset()
 {
-    m_sinceMove.invalidate();
+    m_settle.stop();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QPoint>
+#include <QTimer>
 
 class QWidget;
 
@@ -22,5 +22,5 @@ public:
 private:
     QWidget *m_window;
     QPoint m_target;
-    QElapsedTimer m_sinceMove; // invalid: none is under way
+    QTimer m_settle; // runs while a move may be under way; in a stalled program it does not run out
 };

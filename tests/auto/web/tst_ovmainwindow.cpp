@@ -23,6 +23,7 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWebEngineView>
@@ -96,6 +97,7 @@ private slots:
     void workingSizeOutOfRange_data();
     void workingSizeOutOfRange();
     void moves();
+    void losesNoMoveToAStall();
     void maximizesAndRestores();
     void shortcutOnlyAfterSignIn();
     void logoutReturnsToTheSignInPage_data();
@@ -275,6 +277,19 @@ void TestOvMainWindow::moves()
     window.onMoveWindow(-30, 12);
     QTRY_COMPARE(window.pos(), QPoint(170, 162));
     QCOMPARE(window.size(), QSize(320, 508));
+}
+
+// What the window system reported before the stall is old by then.
+void TestOvMainWindow::losesNoMoveToAStall()
+{
+    OvMainWindow window;
+    window.show();
+    window.move(200, 150);
+    window.onMoveWindow(1, 0);
+    window.move(200, 150); // as the window system reports it
+    QThread::msleep(1100);
+    window.onMoveWindow(1, 0);
+    QTRY_COMPARE(window.pos(), QPoint(202, 150));
 }
 
 void TestOvMainWindow::maximizesAndRestores()
