@@ -21,7 +21,35 @@ constexpr const char *descriptionName = "latest.yml";
 constexpr std::string_view installerPrefix = "Orvane_Setup";
 constexpr std::string_view installerSuffix = ".exe";
 
+// Of the folders beside the release's: what is about to be published, and what was before.
+constexpr const char *preparedSuffix = ".new";
+constexpr const char *formerSuffix = ".old";
+
 constexpr std::size_t maxFiles = 100;
+
+fs::path besides(fs::path folder, const char *suffix)
+{
+    return folder += suffix;
+}
+
+// Puts `prepared` in the place of `folder`. Where that fails, `folder` is what it was.
+void exchange(const fs::path &folder, const fs::path &prepared)
+{
+    const fs::path former = besides(folder, formerSuffix);
+    fs::remove_all(former);
+    const bool hadFormer = fs::exists(folder);
+    if (hadFormer)
+        fs::rename(folder, former);
+    try {
+        fs::rename(prepared, folder);
+    } catch (const fs::filesystem_error &) {
+        if (hadFormer)
+            fs::rename(former, folder);
+        throw;
+    }
+    std::error_code ignored; // the next time
+    fs::remove_all(former, ignored);
+}
 
 bool isInstaller(const std::string &name)
 {
@@ -81,6 +109,9 @@ std::string quoted(const std::string &text)
 ReleaseFolder::ReleaseFolder(fs::path folder)
     : m_folder(std::move(folder))
 {
+    std::error_code error;
+    if (!fs::exists(m_folder, error))
+        fs::rename(besides(m_folder, formerSuffix), m_folder, error); // usually there is none
     for (const fs::path &file : filesIn(m_folder))
         m_requestCounts[file.filename()] = 0;
 }
@@ -106,8 +137,7 @@ std::vector<Release::File> ReleaseFolder::publish(
     if (files.empty() || files.size() > maxFiles)
         throw ReleaseFolderError("\"folder\" must hold 1 to " + std::to_string(maxFiles) + " files");
     const std::lock_guard lock(m_mutex);
-    fs::path prepared = m_folder;
-    prepared += ".new";
+    const fs::path prepared = besides(m_folder, preparedSuffix);
     try {
         fs::remove_all(prepared);
         fs::create_directories(prepared);
@@ -124,8 +154,7 @@ std::vector<Release::File> ReleaseFolder::publish(
             if (!description)
                 throw ReleaseFolderError("cannot write " + std::string(descriptionName));
         }
-        fs::remove_all(m_folder);
-        fs::rename(prepared, m_folder);
+        exchange(m_folder, prepared);
     } catch (const fs::filesystem_error &error) {
         throw ReleaseFolderError(error.what());
     }
@@ -145,6 +174,7 @@ void ReleaseFolder::withdraw()
 {
     const std::lock_guard lock(m_mutex);
     std::error_code ignored; // what stays is not served
+    fs::remove_all(besides(m_folder, formerSuffix), ignored);
     fs::remove_all(m_folder, ignored);
     m_requestCounts.clear();
 }

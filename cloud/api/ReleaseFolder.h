@@ -38,7 +38,8 @@ struct DeliveryFaults
 class ReleaseFolder
 {
 public:
-    // `folder` need not exist; what is in it is the release of an earlier run.
+    // `folder` need not exist; what is in it is the release of an earlier run, which may have ended in the
+    // middle of publish().
     explicit ReleaseFolder(std::filesystem::path folder);
 
     // Takes over copies of the files in a folder of this machine, in place of the release before. Without a

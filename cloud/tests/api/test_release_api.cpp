@@ -4,6 +4,7 @@
 #include "ApiFixture.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 
@@ -151,6 +152,26 @@ TEST_F(ReleaseApiTest, theFilesOutliveARestartAndGoWithTheRelease)
     EXPECT_EQ(get(installerPath).body, m_bytes.toStdString());
     EXPECT_EQ(post("/admin/release", {{"version", ""}}).code(), 200);
     EXPECT_EQ(get(installerPath).status, 404);
+}
+
+TEST_F(ReleaseApiTest, theFormerReleaseIsBackWhenTheServiceEndedBetweenTwo)
+{
+    publishInstaller();
+    stopService();
+    ASSERT_TRUE(QDir(m_folder.path()).rename("release", "release.old"));
+    startService(m_time.clocks());
+    EXPECT_EQ(get(installerPath).body, m_bytes.toStdString());
+}
+
+TEST_F(ReleaseApiTest, nothingStaysOfTheReleaseBefore)
+{
+    publishInstaller();
+    QFile::remove(m_source.filePath(installer));
+    put("Orvane_Setup_1.4.0.exe", "another");
+    EXPECT_EQ(publish().code(), 200);
+    EXPECT_EQ(get(installerPath).status, 404);
+    EXPECT_EQ(get("/release/Orvane_Setup_1.4.0.exe").body, "another");
+    EXPECT_EQ(QDir(m_folder.path()).entryList({"release*"}, QDir::Dirs), QStringList("release"));
 }
 
 TEST_F(ReleaseApiTest, breaksOff)
