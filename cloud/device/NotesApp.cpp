@@ -72,7 +72,7 @@ void NotesApp::breakLines()
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTabStopDistance(FontSize * 3);
     m_lines.setTextOption(option);
-    m_lines.setFont(theme::font(FontSize));
+    useFontHere();
     m_lines.setText(text);
     m_lines.beginLayout();
     qreal height = 0;
@@ -83,6 +83,16 @@ void NotesApp::breakLines()
         height += std::ceil(line.height() + spacing);
     }
     m_lines.endLayout();
+}
+
+// Keys and touches come in other threads than pictures are drawn in, one at a time. A layout keeps the glyphs
+// of the thread that used it last, and Qt shares them with every other text of that thread: they must not be
+// touched from here.
+void NotesApp::useFontHere()
+{
+    if (std::exchange(m_linesThread, QThread::currentThreadId()) != QThread::currentThreadId()) {
+        m_lines.setFont(theme::font(FontSize));
+    }
 }
 
 int NotesApp::lineOf(int position) const
@@ -122,6 +132,7 @@ void NotesApp::showCursor()
 
 void NotesApp::edit(const std::function<void()> &change)
 {
+    useFontHere();
     const QString textBefore = m_buffer.text();
     const int cursorBefore = m_buffer.cursor();
     const int bottomBefore = lineTop(0) + textHeight();
@@ -372,6 +383,7 @@ void NotesApp::draw(QPainter &painter, const QRect &clip)
 
 void NotesApp::drawText(QPainter &painter, const QRect &clip)
 {
+    useFontHere();
     const QRect area = textArea();
     painter.save();
     painter.setClipRect(area.adjusted(-CursorWidth, 0, CursorWidth, 0), Qt::IntersectClip);

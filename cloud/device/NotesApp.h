@@ -6,6 +6,7 @@
 
 #include <QStringList>
 #include <QTextLayout>
+#include <QThread>
 
 #include <functional>
 #include <optional>
@@ -49,6 +50,7 @@ private:
     // Changes the text or the cursor and invalidates the lines that this changes.
     void edit(const std::function<void()> &change);
     void breakLines();
+    void useFontHere();
     int lineOf(int position) const;
     int lineTop(int line) const; // content coordinates
     int textHeight() const;
@@ -65,6 +67,7 @@ private:
 
     TextBuffer m_buffer;
     QTextLayout m_lines;
+    Qt::HANDLE m_linesThread = nullptr; // whose font m_lines has
     int m_scroll = 0; // pixels that the text is moved up
     QStringList m_keys; // newest last
     PushButton m_copyButton;

@@ -60,15 +60,26 @@ QRect PaintApp::counter() const
 void PaintApp::layout()
 {
     m_clearButton.setRect({screen().width() - theme::Margin - 130, theme::StatusBarHeight + 22, 130, 52});
+    m_bitmap = QImage();
+}
+
+void PaintApp::inkAnew()
+{
     m_bitmap = QImage(screen(), QImage::Format_RGB32);
     m_bitmap.fill(theme::Paper);
     QPainter painter(&m_bitmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    for (const Stroke &stroke : m_strokes) {
+    const auto inkPieces = [&](const Stroke &stroke) {
         for (std::size_t i = 0; i < stroke.samples.size(); ++i) {
             inkPiece(painter, stroke, i);
         }
+    };
+    for (const Stroke &stroke : m_strokes) {
+        inkPieces(stroke);
         inkEnd(painter, stroke);
+    }
+    for (const auto &[id, finger] : m_fingers) {
+        inkPieces(finger.stroke);
     }
 }
 
@@ -76,6 +87,9 @@ void PaintApp::draw(QPainter &painter, const QRect &clip)
 {
     const QRect part = clip & paper();
     if (!part.isEmpty()) {
+        if (m_bitmap.isNull()) {
+            inkAnew();
+        }
         painter.drawImage(part.topLeft(), m_bitmap, part);
         painter.setRenderHint(QPainter::Antialiasing);
         for (const auto &[id, finger] : m_fingers) {
@@ -161,6 +175,9 @@ void PaintApp::touchMove(const Pointer &pointer)
     stroke.samples.push_back({pointer.position,
         ThinnestWidth + (ThickestWidth - ThinnestWidth) * static_cast<qreal>(pointer.pressure)});
     ++m_pointCount;
+    if (m_bitmap.isNull()) {
+        return invalidate(tip(finger)); // and the paper, since the turn
+    }
     QPainter painter(&m_bitmap);
     painter.setRenderHint(QPainter::Antialiasing);
     invalidate(inkPiece(painter, stroke, stroke.samples.size() - 1) | tip(finger));
@@ -192,9 +209,11 @@ void PaintApp::finish(int id)
         return;
     }
     invalidate(tip(found->second) | counter());
-    QPainter painter(&m_bitmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    invalidate(inkEnd(painter, found->second.stroke));
+    if (!m_bitmap.isNull()) {
+        QPainter painter(&m_bitmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        invalidate(inkEnd(painter, found->second.stroke));
+    }
     m_strokes.push_back(std::move(found->second.stroke));
     m_fingers.erase(found);
     forgetOldest();
@@ -219,7 +238,9 @@ void PaintApp::clear()
         finger.stroke.samples.erase(finger.stroke.samples.begin(), finger.stroke.samples.end() - 1);
         ++m_pointCount;
     }
-    m_bitmap.fill(theme::Paper);
+    if (!m_bitmap.isNull()) {
+        m_bitmap.fill(theme::Paper);
+    }
     invalidateAll();
 }
 

@@ -52,6 +52,7 @@ private:
     QRect paper() const;
     QRect counter() const;
     void drawHeader(QPainter &painter);
+    void inkAnew();
     // Draws the piece of the stroke that sample `index` completes onto the bitmap; returns what it covers.
     QRect inkPiece(QPainter &painter, const Stroke &stroke, std::size_t index);
     QRect inkEnd(QPainter &painter, const Stroke &stroke);
@@ -60,7 +61,9 @@ private:
     void forgetOldest();
 
     PushButton m_clearButton;
-    QImage m_bitmap; // the paper with every finished piece; screen coordinates
+    // The paper with every finished piece; screen coordinates. Null after a turn until it is looked at:
+    // inking many strokes takes longer than an input may.
+    QImage m_bitmap;
     std::map<int, Finger> m_fingers; // by pointer id
     std::vector<Stroke> m_strokes; // finished, for drawing anew after a turn; bounded
     int m_strokeCount = 0; // since the last clear

@@ -25,6 +25,9 @@ constexpr std::size_t KeptBufferBytes = std::size_t(256) * 1024;
 constexpr int MaxPendingMessages = 64;
 constexpr std::size_t MaxPendingBytes = std::size_t(8) * 1024 * 1024;
 constexpr std::size_t MaxOutgoing = 256;
+// A client that does not read what it is sent is given up when this much waits for it. Video alone stops long
+// before, as it waits for the client's acknowledgements.
+constexpr std::size_t MaxOutgoingBytes = std::size_t(16) * 1024 * 1024;
 
 } // namespace
 
@@ -411,6 +414,10 @@ void ClientConnection::enqueue(Outgoing outgoing)
     if (m_state != State::SignedIn) {
         return;
     }
+    m_outgoingBytes += outgoing.message.size();
+    if (m_outgoingBytes > MaxOutgoingBytes) {
+        return close("the client does not read");
+    }
     if (outgoing.video) {
         m_outgoing.push_back(std::move(outgoing));
     } else {
@@ -442,6 +449,7 @@ void ClientConnection::write()
 void ClientConnection::onWritten(std::size_t bytes)
 {
     m_counters->bytesSent += bytes;
+    m_outgoingBytes -= std::min(m_outgoingBytes, m_outgoing.front().message.size());
     m_outgoing.pop_front();
     if (m_state == State::Ending && m_outgoing.empty()) {
         return sayGoodbye();

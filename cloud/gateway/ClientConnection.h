@@ -127,6 +127,7 @@ private:
     bool m_reading = false;
     bool m_writing = false;
     std::deque<Outgoing> m_outgoing; // the first one is being written while m_writing
+    std::size_t m_outgoingBytes = 0; // of m_outgoing, until the connection ends
     std::shared_ptr<DeviceHost> m_device;
     TimePoint m_heardAt{};
     std::uint64_t m_lastPingId = 0;

@@ -17,8 +17,8 @@ constexpr std::size_t MaxViewers = 32;
 constexpr std::size_t MaxCameraSessions = 2 * MaxViewers;
 // Pasted rather than typed.
 constexpr std::size_t LongTextBytes = 256;
-// A device that worked longer over an input than this gets the next one on its strand: an app that lays out a
-// long text or draws anew must not hold up the input of other devices.
+// A device that worked longer over an input than this gets the next one of the kind on its strand: an app
+// that lays out a long text must not hold up the input of other devices.
 constexpr std::chrono::milliseconds SlowInput{1};
 // What somebody who only looks on is shown may be older by this.
 constexpr Clock::duration OnlookerInterval = std::chrono::milliseconds(1000 / FramePacer::OnlookerRate);
@@ -57,6 +57,18 @@ bool isInput(const ClientMessage &message)
         || std::holds_alternative<client::Text>(message);
 }
 
+// Index into DeviceHost::m_isSlowOver.
+std::size_t kindOf(const ClientMessage &message)
+{
+    if (const auto *touch = std::get_if<client::Touch>(&message)) {
+        return static_cast<std::size_t>(std::clamp(touch->action, 0, 2));
+    }
+    if (const auto *key = std::get_if<client::Key>(&message)) {
+        return 3 + static_cast<std::size_t>(std::clamp(key->action, 1, 3) - 1);
+    }
+    return 6;
+}
+
 bool isLongText(const ClientMessage &message)
 {
     const auto *text = std::get_if<client::Text>(&message);
@@ -77,17 +89,17 @@ DeviceHost::DeviceHost(std::string padCode, const std::string &name, QSize scree
     : m_padCode(std::move(padCode))
     , m_strand(boost::asio::make_strand(executor))
     , m_deviceMutex(
-          [this](const DeviceMutex::Input &input) { takeInput(input); }, [this] { takeInputSoon(); })
+          [this](const DeviceMutex::Input &input) { return takeInput(input); }, [this] { takeInputSoon(); })
     , m_device(m_padCode, name, &QDateTime::currentDateTime, screen)
     , m_pictures(m_device, m_deviceMutex)
     , m_timer(m_strand)
 {
     // The device calls these while it is being used, that is with the mutex held.
     m_device.onSensorRequest = [this](int inputType, int state, int width, int height) {
-        m_events.emplace_back(SensorEvent{inputType, state, width, height});
+        noteEvent(SensorEvent{inputType, state, width, height});
     };
-    m_device.onClipboard = [this](const std::string &text) { m_events.emplace_back(ClipboardEvent{text}); };
-    m_device.onRotation = [this](int rotation) { m_events.emplace_back(RotationEvent{rotation}); };
+    m_device.onClipboard = [this](const std::string &text) { noteEvent(ClipboardEvent{text}); };
+    m_device.onRotation = [this](int rotation) { noteEvent(RotationEvent{rotation}); };
 }
 
 // --- Any thread, in order ---
@@ -107,7 +119,7 @@ void DeviceHost::leave(ConnectionId connection)
 void DeviceHost::receive(ConnectionId connection, ClientMessage message, std::function<void()> done)
 {
     if (isInput(message)) {
-        const bool isSlow = m_isSlow || isLongText(message);
+        const bool isSlow = m_isSlowOver.at(kindOf(message)) || isLongText(message);
         return m_deviceMutex.give({connection, std::move(message), std::move(done), isSlow});
     }
     boost::asio::post(m_strand,
@@ -223,17 +235,27 @@ void DeviceHost::catchUp(TimePoint now)
     }
 }
 
-void DeviceHost::takeInput(const DeviceMutex::Input &given)
+// Only the last of its kind counts for the viewers, however many a client causes before they are told.
+void DeviceHost::noteEvent(DeviceEvent event)
+{
+    const auto isSameKind = [&event](const DeviceEvent &other) { return other.index() == event.index(); };
+    m_events.erase(std::remove_if(m_events.begin(), m_events.end(), isSameKind), m_events.end());
+    m_events.push_back(std::move(event));
+}
+
+bool DeviceHost::takeInput(const DeviceMutex::Input &given)
 {
     const auto session = m_sessions.find(given.connection);
     if (session == m_sessions.end()) {
-        return; // replaced or on its way out: its input no longer counts
+        return false; // replaced or on its way out: its input no longer counts
     }
     const auto begin = threadWorkTime();
     if (const auto cause = input(session->second, given.message)) {
         noteChange(*cause);
     }
-    m_isSlow = threadWorkTime() - begin > SlowInput;
+    const bool tookLong = threadWorkTime() - begin > SlowInput;
+    m_isSlowOver.at(kindOf(given.message)) = tookLong;
+    return tookLong;
 }
 
 std::optional<FrameCause> DeviceHost::input(const std::string &session, const ClientMessage &message)
@@ -300,13 +322,16 @@ void DeviceHost::joinNow(Joining joining)
     int rotation = 0;
     QSize size;
     std::optional<QSize> camera;
+    std::vector<DeviceEvent> events; // for those who were there before: the new one is told how things are
     {
         const std::lock_guard lock(m_deviceMutex);
+        events.swap(m_events);
         rotation = m_device.rotation();
         camera = m_device.wantedCamera();
         size = m_device.screenSize();
         m_sessions.emplace(joining.connection, joining.sessionId);
     }
+    deliver(events);
     joining.link->accept(server::loginAccepted(size, rotation));
     m_entries.push_back(std::make_unique<Entry>(Entry{joining.connection,
         Viewer(joining.sessionId, std::move(joining.link), std::move(joining.counters))}));
@@ -395,9 +420,7 @@ void DeviceHost::update(FrameCause cause)
         cause = std::max(cause, std::exchange(m_changeCause, std::nullopt).value_or(cause));
         m_updatePosted = false;
     }
-    for (const DeviceEvent &event : events) {
-        deliver(event);
-    }
+    deliver(events);
     const bool changed = std::exchange(m_seenVersion, version) != version;
     for (const auto &entry : m_entries) {
         if (changed) {
@@ -433,23 +456,25 @@ void DeviceHost::releasePictures()
     m_pictures.keep(wanted);
 }
 
-void DeviceHost::deliver(const DeviceEvent &event)
+void DeviceHost::deliver(const std::vector<DeviceEvent> &events)
 {
     const auto tellAll = [this](const std::string &message) {
         for (const auto &entry : m_entries) {
             entry->viewer.link().sendControl(message);
         }
     };
-    std::visit(Overloaded{
-                   [this](const SensorEvent &e) {
-                       for (const auto &entry : m_entries) {
-                           tellSensor(entry->viewer, e);
-                       }
-                   },
-                   [&](const ClipboardEvent &e) { tellAll(server::clipboard(e.text)); },
-                   [&](const RotationEvent &e) { tellAll(server::screenRotation(e.rotation)); },
-               },
-        event);
+    const Overloaded tell{
+        [this](const SensorEvent &e) {
+            for (const auto &entry : m_entries) {
+                tellSensor(entry->viewer, e);
+            }
+        },
+        [&](const ClipboardEvent &e) { tellAll(server::clipboard(e.text)); },
+        [&](const RotationEvent &e) { tellAll(server::screenRotation(e.rotation)); },
+    };
+    for (const DeviceEvent &event : events) {
+        std::visit(tell, event);
+    }
 }
 
 // A request to stop goes only to sessions that were asked to start, also when they have been away meanwhile:

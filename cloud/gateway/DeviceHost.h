@@ -10,7 +10,9 @@
 #include <boost/asio/steady_timer.hpp>
 #include <boost/asio/strand.hpp>
 
+#include <array>
 #include <atomic>
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -22,7 +24,8 @@ namespace orvane::cloud {
 // One virtual device with the sessions that view and work it. Everything that takes time (drawing,
 // converting, encoding) runs on the host's strand of the worker pool, and only when a picture may go out; a
 // device that nobody watches has no picture and no timer and does nothing. Touches, keys and text do not wait
-// for the strand: they reach the device in the thread that brings them, unless it is just being used.
+// for the strand: they reach the device in the thread that brings them, unless it is just being used or takes
+// long over such input.
 //
 // Owned by GatewayFleet and by its own handlers. Viewers, picture and timer belong to the strand. The device
 // itself is guarded by m_deviceMutex, so that the HTTP API can read and change it from its own threads.
@@ -87,6 +90,9 @@ private:
         int rotation;
     };
     using DeviceEvent = std::variant<SensorEvent, ClipboardEvent, RotationEvent>;
+    // Three actions of touches, three of keys, and text: an app that is quick when a key goes up need not be
+    // when it goes down.
+    static constexpr std::size_t InputKinds = 7;
     // How closely the device is watched.
     struct Audience
     {
@@ -105,7 +111,8 @@ private:
 
     // Any thread, with the mutex held.
     void catchUp(TimePoint now);
-    void takeInput(const DeviceMutex::Input &input);
+    void noteEvent(DeviceEvent event);
+    bool takeInput(const DeviceMutex::Input &input); // whether it took long
     // Gives input to the device. None when the message is no input.
     std::optional<FrameCause> input(const std::string &session, const ClientMessage &message);
     void noteChange(FrameCause cause);
@@ -119,7 +126,7 @@ private:
     bool isWatched() const;
     void publishAudience();
     void update(FrameCause cause);
-    void deliver(const DeviceEvent &event);
+    void deliver(const std::vector<DeviceEvent> &events);
     void tellSensor(Viewer &viewer, const SensorEvent &event);
     void releasePictures();
     void schedule(TimePoint now, std::optional<TimePoint> deviceTick);
@@ -129,12 +136,14 @@ private:
 
     DeviceMutex m_deviceMutex;
     VirtualDevice m_device; // m_deviceMutex
-    std::vector<DeviceEvent> m_events; // m_deviceMutex; what the device said and nobody was told yet
+    // m_deviceMutex; what the device said and nobody was told yet: the newest of each kind
+    std::vector<DeviceEvent> m_events;
     std::map<ConnectionId, std::string> m_sessions; // m_deviceMutex; of the entries
     std::optional<FrameCause> m_changeCause; // m_deviceMutex; the most urgent since the last update
     bool m_updatePosted = false; // m_deviceMutex; since the last update
     Audience m_audience; // m_deviceMutex; as of the last update
-    std::atomic<bool> m_isSlow{false}; // over its last input; set with m_deviceMutex
+    // Kinds of input whose last one took the device long; set with m_deviceMutex.
+    std::array<std::atomic<bool>, InputKinds> m_isSlowOver{};
 
     std::vector<std::unique_ptr<Entry>> m_entries; // strand
     std::vector<std::string> m_cameraSessions; // strand; asked to start the camera and not yet to stop

@@ -41,8 +41,14 @@ void DeviceMutex::give(Input input)
     }
     // What waits behind a slow one is carried out by whoever carries that out.
     while (isNextQuick() && m_mutex.try_lock()) {
-        carryOutQuick();
+        const bool wasQuick = carryOutQuick();
         m_mutex.unlock();
+        if (!wasQuick) {
+            if (waitingInputs() > 0) {
+                callHelper();
+            }
+            return;
+        }
     }
 }
 
@@ -59,35 +65,41 @@ bool DeviceMutex::isNextQuick()
     return !m_waiting.empty() && !m_waiting.front().isSlow;
 }
 
-bool DeviceMutex::takeNext(bool evenSlow, Input &input)
+std::optional<DeviceMutex::Input> DeviceMutex::takeNext(bool evenSlow)
 {
     const std::lock_guard lock(m_waitingMutex);
     if (m_waiting.empty() || (m_waiting.front().isSlow && !evenSlow)) {
-        return false;
+        return std::nullopt;
     }
-    input = std::move(m_waiting.front());
+    Input input = std::move(m_waiting.front());
     m_waiting.pop_front();
-    return true;
+    return input;
 }
 
 // With the mutex held. No more than waited when it began: a flood must not keep its holder for good.
 void DeviceMutex::carryOut(std::size_t count) noexcept
 {
-    Input input;
-    for (; count > 0 && takeNext(true, input); --count) {
-        m_handler(input);
-        input.done();
+    for (; count > 0; --count) {
+        const auto input = takeNext(true);
+        if (!input) {
+            return;
+        }
+        m_handler(*input);
+        input->done();
     }
 }
 
-// With the mutex held, by the one who gives the inputs: nothing comes meanwhile.
-void DeviceMutex::carryOutQuick() noexcept
+// With the mutex held, in a thread that has no time: false when one took long after all.
+bool DeviceMutex::carryOutQuick() noexcept
 {
-    Input input;
-    while (takeNext(false, input)) {
-        m_handler(input);
-        input.done();
+    while (const auto input = takeNext(false)) {
+        const bool tookLong = m_handler(*input);
+        input->done();
+        if (tookLong) {
+            return false;
+        }
     }
+    return true;
 }
 
 void DeviceMutex::callHelper()

@@ -7,6 +7,7 @@
 #include <deque>
 #include <functional>
 #include <mutex>
+#include <optional>
 
 namespace orvane::cloud {
 
@@ -26,8 +27,9 @@ public:
         std::function<void()> done; // called once it has been carried out
         bool isSlow = false; // is not to be carried out by the thread that gives it
     };
-    // Carries out one input. It and `done` are called with the mutex held, and must not throw.
-    using Handler = std::function<void(const Input &)>;
+    // Carries out one input; returns whether that took long. It and `done` are called with the mutex held,
+    // and must not throw.
+    using Handler = std::function<bool(const Input &)>;
     // Sees to it that a thread with time locks the mutex soon. Called by any thread, without a lock.
     using Helper = std::function<void()>;
 
@@ -39,15 +41,16 @@ public:
     // helper.
     void unlock();
     // Carries the input out, after all that were given before: at once, in this thread, or soon, in another.
-    // Never waits for the mutex, and must not be called by its holder.
+    // What waits behind one that took long is left to another. Never waits for the mutex, and must not be
+    // called by its holder.
     void give(Input input);
 
 private:
     std::size_t waitingInputs(bool clearsHelp = false);
     bool isNextQuick();
-    bool takeNext(bool evenSlow, Input &input);
+    std::optional<Input> takeNext(bool evenSlow);
     void carryOut(std::size_t count) noexcept;
-    void carryOutQuick() noexcept;
+    bool carryOutQuick() noexcept;
     void callHelper();
 
     const Handler m_handler;

@@ -206,6 +206,17 @@ TEST_F(AppsTest, paintDrawsWhereTheFingerIs)
     device.setRotation(1);
     device.setRotation(0);
     EXPECT_NE(device.frame().pixel(300, 700), paper) << "drawn anew after a turn";
+    const QImage drawn = device.frame().copy();
+    device.setRotation(1);
+    device.setRotation(0);
+    touch(Down, {{200, 900}}); // nobody has looked since the turn
+    touch(Move, {{400, 900}});
+    EXPECT_NE(device.frame().pixel(250, 900), paper);
+    touch(Up, {});
+    for (int x = 200; x <= 400; x += 10) {
+        EXPECT_NE(device.frame().pixel(x, 900), paper) << x;
+        EXPECT_EQ(device.frame().pixel(x, 700), drawn.pixel(x, 700)) << x;
+    }
 }
 
 TEST_F(AppsTest, listFollowsTheFinger)

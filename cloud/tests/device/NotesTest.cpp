@@ -4,6 +4,8 @@
 
 #include <QJsonArray>
 
+#include <thread>
+
 #include <linux/input-event-codes.h>
 
 namespace orvane::cloud {
@@ -224,6 +226,21 @@ TEST_F(NotesTest, otherScriptsAreDrawn)
         type("");
         EXPECT_FALSE(device.takeDirty().isEmpty());
         EXPECT_NE(device.frame(), before) << sample;
+    }
+}
+
+// As a gateway does: keys come in one thread and pictures are drawn in others.
+TEST_F(NotesTest, looksTheSameWhoeverDrawsIt)
+{
+    const std::string text = "Hello 你好 مرحبا สวัสดี 😀 ";
+    VirtualDevice other("VM100001", "Aurora", [this] { return wallTime; });
+    other.openApp("Notes");
+    for (int i = 0; i < 20; ++i) {
+        type(text);
+        other.text("one", text, now);
+        QImage elsewhere;
+        std::thread([&] { elsewhere = other.frame().copy(); }).join();
+        ASSERT_EQ(elsewhere, device.frame()) << i;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -44,12 +45,14 @@ protected:
     std::atomic<int> done{0};
     std::atomic<int> helpCalls{0};
     std::function<void()> whileCarryingOut; // called once
+    std::atomic<bool> takesLong{false};
     DeviceMutex mutex{[this](const DeviceMutex::Input &input) {
                           codes.push_back(std::get<client::Key>(input.message).code);
                           threads.push_back(std::this_thread::get_id());
                           if (const auto call = std::exchange(whileCarryingOut, nullptr)) {
                               call();
                           }
+                          return takesLong.load();
                       },
         [this] { ++helpCalls; }};
 };
@@ -105,6 +108,51 @@ TEST_F(DeviceMutexTest, SlowInputIsLeftToTheHelperInItsPlace)
     EXPECT_EQ(helpCalls, 2);
 }
 
+// It was given as quick, and only carrying it out shows that it is not.
+TEST_F(DeviceMutexTest, WhatWaitsBehindOneThatTookLongIsLeftToTheHelper)
+{
+    takesLong = true;
+    std::thread::id giver;
+    std::thread second;
+    whileCarryingOut = [this, &giver, &second] { // others come while the giver carries the first one out
+        giver = std::this_thread::get_id();
+        second = std::thread([this] {
+            give(31);
+            give(32);
+        });
+        second.join();
+    };
+    give(30);
+    EXPECT_EQ(codes, std::vector<int>{30});
+    EXPECT_EQ(giver, std::this_thread::get_id());
+    EXPECT_EQ(helpCalls, 1);
+    mutex.lock(); // the helper
+    EXPECT_EQ(codes, (std::vector<int>{30, 31, 32}));
+    mutex.unlock();
+    EXPECT_EQ(done, 3);
+}
+
+TEST_F(DeviceMutexTest, WhatAnInputOwnsMayGiveInputWhenItGoes)
+{
+    struct Owned
+    {
+        ~Owned() { goes(); }
+        std::function<void()> goes;
+    };
+    auto owned = std::make_shared<Owned>();
+    owned->goes = [this] { std::thread([this] { give(32); }).join(); };
+    mutex.lock();
+    std::thread([&] {
+        mutex.give({1, key(30), [this, owned = std::exchange(owned, nullptr)] { ++done; }});
+        give(31);
+    }).join();
+    mutex.unlock();
+    mutex.lock();
+    EXPECT_EQ(codes, (std::vector<int>{30, 31, 32}));
+    mutex.unlock();
+    EXPECT_EQ(done, 3);
+}
+
 // Otherwise a client that sends faster than its device works would have the thread for itself.
 TEST_F(DeviceMutexTest, AFloodDoesNotKeepWhoUsesTheDevice)
 {
@@ -139,6 +187,7 @@ TEST_F(DeviceMutexTest, NothingIsLostDoubledOrOutOfOrder)
             ordered = ordered && code == last.at(giver) + 1;
             last.at(giver) = code;
             ++count.at(giver);
+            return code % 64 == 0;
         },
         [&] { helpIsWanted = true; });
     std::vector<std::thread> threads;

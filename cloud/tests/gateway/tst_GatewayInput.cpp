@@ -4,6 +4,8 @@
 
 #include "gateway/FramePacer.h"
 
+#include <linux/input-event-codes.h>
+
 using namespace orvane::cloud;
 using namespace orvane::cloud::test;
 using namespace std::chrono_literals;
@@ -170,4 +172,31 @@ TEST_F(GatewayInputTest, WhoComesAfterTheCameraWasOpenedIsAskedOnce)
     });
     EXPECT_TRUE(rotation);
     EXPECT_EQ(requests, 1);
+}
+
+// Its device may have more and more to tell it: 36 MB here.
+TEST_F(GatewayInputTest, AClientThatDoesNotReadIsGivenUp)
+{
+    start();
+    fleet->openApp("VM1", "Notes");
+    auto deaf = signIn();
+    auto other = signIn(SecondLoginBytes);
+    const auto press = [&other](int code) {
+        swplay::wire::StreamMessage message;
+        message.mutable_key()->set_action(1);
+        message.mutable_key()->set_code(code);
+        return other->send(message.SerializeAsString());
+    };
+    swplay::wire::StreamMessage note;
+    for (int i = 0; i < 10000; ++i) {
+        note.mutable_text()->mutable_text()->append("好");
+    }
+    other->send(note.SerializeAsString());
+    press(KEY_LEFTCTRL);
+    for (int i = 0; i < 1200; ++i) {
+        press(KEY_C);
+        ASSERT_TRUE(other->receiveUntil([](const auto &m) { return m.has_clipboard(); })) << i;
+    }
+    EXPECT_TRUE(deaf->waitForEnd());
+    EXPECT_FALSE(other->hasEnded());
 }

@@ -32,7 +32,7 @@ protected:
         return static_cast<int>(sum / static_cast<double>(samples.size()));
     }
 
-    DeviceMutex mutex{[](const DeviceMutex::Input &) {}, [] {}};
+    DeviceMutex mutex{[](const DeviceMutex::Input &) { return false; }, [] {}};
     VirtualDevice device{"VM1", "One"};
     ScreenPictures pictures{device, mutex};
 };
