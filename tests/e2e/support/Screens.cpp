@@ -75,4 +75,13 @@ QImage settledPicture(const QString &what, const QRect &area, int timeoutMs)
     return last;
 }
 
+QImage settledPictureOf(
+    const QString &what, const QRect &area, const QPoint &position, const QColor &colour, int timeoutMs)
+{
+    const QRect pixel(area.topLeft() + position, QSize(1, 1));
+    waitUntil(
+        what, [&] { return Desktop::screenshot(pixel).pixelColor(0, 0) == colour; }, timeoutMs);
+    return settledPicture(what, area, timeoutMs);
+}
+
 } // namespace e2e
