@@ -43,8 +43,8 @@ void DemoRun::offerUpdate()
     openSettings();
     clickInMainWindow(checkForUpdates);
     save(QStringLiteral("update-offered"),
-        settledPictureOf(QStringLiteral("the page offers the update"), Desktop::window(mainWindowTitle),
-            installUpdate, accent));
+        settledPictureOf(
+            QStringLiteral("the page offers the update"), mainWindowTitle, installUpdate, accent));
     say(QStringLiteral("the page offers version 1.3.0"));
 }
 
@@ -62,8 +62,8 @@ void DemoRun::downloadUpdate()
     waitUntil(
         QStringLiteral("the installer is there"), [&] { return QFile::exists(pending + installer); }, 30000);
     save(QStringLiteral("update-ready"),
-        settledPictureOf(QStringLiteral("the choice is shown"), Desktop::window(updateDialogTitle),
-            confirmUpdate + QPoint(0, 11), accent));
+        settledPictureOf(
+            QStringLiteral("the choice is shown"), updateDialogTitle, confirmUpdate + QPoint(0, 11), accent));
     say(QStringLiteral("downloaded the installer of version 1.3.0"));
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Desktop.h"
 #include "Screens.h"
 
 #include <QColor>
@@ -27,8 +26,8 @@ constexpr Page MirroredSettingsPage{"the mirrored settings", {905, 469}, qRgb(0x
 // StepFailed.
 inline QImage settledPage(const Page &page, int timeoutMs = 15000)
 {
-    return settledPictureOf(QLatin1String(page.name), Desktop::window(QStringLiteral("Orvane")),
-        page.position, QColor(page.colour), timeoutMs);
+    return settledPictureOf(
+        QLatin1String(page.name), QStringLiteral("Orvane"), page.position, QColor(page.colour), timeoutMs);
 }
 
 } // namespace e2e

@@ -76,12 +76,16 @@ QImage settledPicture(const QString &what, const QRect &area, int timeoutMs)
 }
 
 QImage settledPictureOf(
-    const QString &what, const QRect &area, const QPoint &position, const QColor &colour, int timeoutMs)
+    const QString &what, const QString &window, const QPoint &position, const QColor &colour, int timeoutMs)
 {
-    const QRect pixel(area.topLeft() + position, QSize(1, 1));
     waitUntil(
-        what, [&] { return Desktop::screenshot(pixel).pixelColor(0, 0) == colour; }, timeoutMs);
-    return settledPicture(what, area, timeoutMs);
+        what,
+        [&] {
+            const QRect pixel(Desktop::window(window).topLeft() + position, QSize(1, 1));
+            return Desktop::screenshot(pixel).pixelColor(0, 0) == colour;
+        },
+        timeoutMs);
+    return settledPicture(what, Desktop::window(window), timeoutMs);
 }
 
 } // namespace e2e
