@@ -18,6 +18,8 @@
 #include "widgets/OvComboBoxEditableItem.h"
 #include "widgets/OvToast.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QJsonArray>
 #include <QPushButton>
@@ -96,6 +98,8 @@ public:
         press("exitButton");
         m_window->activateWindow();
         waitUntil(QStringLiteral("the video has the keyboard"), [this] { return view()->hasFocus(); });
+        if (!waitForInputFocus(*m_window))
+            throw StepFailed(QStringLiteral("the display does not give the window the keyboard"));
     }
     OvAuxiliaryKey *key(const QString &text) const
     {

@@ -1,5 +1,6 @@
 #include "Client.h"
 #include "Desktop.h"
+#include "Pages.h"
 #include "PlainApiProxy.h"
 #include "Screens.h"
 #include "Service.h"
@@ -113,7 +114,7 @@ void TestClient::waitForDeviceList()
 {
     waitUntil(
         QStringLiteral("the device list"), [] { return Desktop::window(mainWindow).width() >= 1000; }, 30000);
-    settledPicture(QStringLiteral("the device list is painted"), Desktop::window(mainWindow));
+    e2e::settledPage(e2e::DevicesPage, 30000);
 }
 
 void TestClient::signIn(const QString &password)

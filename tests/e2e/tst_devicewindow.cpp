@@ -18,6 +18,8 @@
 #include <QScreen>
 #include <QTest>
 
+#include <utility>
+
 using e2e::Resources;
 using e2e::Service;
 using e2e::StepFailed;
@@ -294,15 +296,20 @@ void TestDeviceWindow::pausesInStandbyAndResumes()
             return m_service->sessionStats(m_pad).value(QLatin1String("frames_sent")).toDouble();
         };
         QTRY_COMPARE(m_service->sessionStats(m_pad).value(QLatin1String("cast_mode")).toInt(-1), 0);
+        qint64 bytes = -1;
+        waitUntil(QStringLiteral("nothing more is on its way"), [&] {
+            QTest::qWait(200);
+            const qint64 bytesBefore = std::exchange(bytes, bytesSent());
+            return bytes == bytesBefore;
+        });
         const double before = pictures();
         const double frame = m_service->appState(m_pad).value(QLatin1String("frame")).toDouble();
-        const qint64 bytes = bytesSent();
         waitUntil(QStringLiteral("the device has drawn a hundred pictures more"), [&] {
             return m_service->appState(m_pad).value(QLatin1String("frame")).toDouble() > frame + 100;
         });
         QCOMPARE(pictures(), before);
         qInfo() << "bytes sent while the device drew 100 pictures:" << bytesSent() - bytes;
-        QVERIFY(bytesSent() - bytes < 500); // answers to the client's own pings
+        QVERIFY(bytesSent() - bytes < 2000); // answers to the client's own pings
 
         QTest::mouseClick(standby->findChildren<QPushButton *>().first(), Qt::LeftButton);
         QVERIFY(!standby->isVisible());
@@ -324,16 +331,20 @@ void TestDeviceWindow::leavesNothingBehind()
         };
         for (int i = 0; i < warmUp; ++i)
             cycle();
-        const Resources before = Resources::now();
+        const Resources before = Resources::settled();
         for (int i = 0; i < openings; ++i)
             cycle();
-        const Resources after = Resources::now();
+        Resources after;
+        const auto looksAsBefore = [&] {
+            after = Resources::now();
+            return after.threads <= before.threads // an idle one of a pool may have ended
+                && after.files == before.files && after.sockets == before.sockets;
+        };
+        const bool isAsBefore = QTest::qWaitFor(looksAsBefore, 45000);
         qInfo() << "before and after 200 windows: threads" << before.threads << after.threads << "files"
                 << before.files << after.files << "sockets" << before.sockets << after.sockets
                 << "resident KB" << before.residentKb << after.residentKb;
-        QVERIFY(after.threads <= before.threads); // an idle one of a pool may have ended
-        QCOMPARE(after.files, before.files);
-        QCOMPARE(after.sockets, before.sockets);
+        QVERIFY(isAsBefore);
         QVERIFY2(after.residentKb < before.residentKb + growthKb,
             qPrintable(QStringLiteral("%1 KB, then %2 KB").arg(before.residentKb).arg(after.residentKb)));
     });

@@ -9,6 +9,8 @@
 #include "net/HttpHelper.h"
 #include "stream/VideoView.h"
 
+#include <InputFocus.h>
+
 #include <swplay/SWRuntime.h>
 
 #include <QApplication>
@@ -114,6 +116,7 @@ void TestInput::initTestCase()
         QCOMPARE(SWRuntime::getInstance()->init(1, qUtf8Printable(m_logDir.path())), 0);
         openWindow();
     });
+    Desktop::setKeyRepeat(false); // a key that is held for long while the machine is busy
 }
 
 void TestInput::openWindow()
@@ -149,12 +152,14 @@ void TestInput::init()
             Desktop::activate(m_window->windowTitle());
             waitUntil(QStringLiteral("the window is active"), [&] { return m_window->isActiveWindow(); });
         }
+        QVERIFY(waitForInputFocus(*m_window));
         m_seen += m_service->inputEvents(m_pad, m_seen).size(); // of a test that has failed
     });
 }
 
 void TestInput::cleanupTestCase()
 {
+    Desktop::setKeyRepeat(true);
     m_window.reset();
     SWRuntime::getInstance()->deinit();
     m_service.reset();

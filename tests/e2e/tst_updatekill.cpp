@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <utility>
+
 using e2e::ReleaseFiles;
 using e2e::StepFailed;
 using e2e::waitUntil;
@@ -125,7 +127,12 @@ void TestUpdateKill::nextRunEndsWithTheInstaller()
             const bool isThere = QFile::exists(pendingFile(installer));
             QVERIFY2(!isThere || installed() == m_bytes, qPrintable(what));
 
-            const int requestsBefore = packageRequests();
+            int requestsBefore = -1; // the service may still read one of the killed client
+            waitUntil(what, [&] {
+                QTest::qWait(300);
+                const int looked = std::exchange(requestsBefore, packageRequests());
+                return requestsBefore == looked;
+            });
             const int installationsBefore = installations();
             QVERIFY2(run(when), qPrintable(what));
             QVERIFY2(installed() == m_bytes, qPrintable(what));

@@ -85,10 +85,11 @@ void RawClient::answer(const Message &message)
     }
 }
 
-std::optional<RawClient::Message> RawClient::receiveUntil(const std::function<bool(const Message &)> &wanted)
+std::optional<RawClient::Message> RawClient::receiveUntil(
+    const std::function<bool(const Message &)> &wanted, std::chrono::seconds limit)
 {
     // Pings keep coming: the limit is for the wanted message.
-    const auto deadline = std::chrono::steady_clock::now() + Limit;
+    const auto deadline = std::chrono::steady_clock::now() + limit;
     while (std::chrono::steady_clock::now() < deadline) {
         const auto bytes = receiveBytes();
         Message message;

@@ -36,8 +36,9 @@ public:
     // for).
     std::optional<Message> receive();
     // The next message that satisfies the predicate; others are answered and dropped. None as above, or when
-    // it did not come within the limit.
-    std::optional<Message> receiveUntil(const std::function<bool(const Message &)> &wanted);
+    // it did not come within `limit`.
+    std::optional<Message> receiveUntil(
+        const std::function<bool(const Message &)> &wanted, std::chrono::seconds limit = Limit);
     std::optional<swplay::wire::VideoFrame> receiveFrame();
     // Reads to the end. False when the connection was still there at the limit.
     bool waitForEnd();

@@ -98,7 +98,7 @@ TEST_F(GatewayFleetTest, InputBeforeTheLoginEndsTheConnection)
 TEST_F(GatewayFleetTest, NoLoginInTime)
 {
     ConnectionTimes times;
-    times.login = 50ms;
+    times.login = 1s;
     start(times);
     auto client = connect();
     expectEnd(*client, SessionEnd::PROTOCOL_ERROR, "no login in time");

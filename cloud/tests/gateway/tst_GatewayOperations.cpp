@@ -303,11 +303,12 @@ TEST_F(GatewayFleetTest, ALimitedConnectionIsSlowAndItsLevelGoesDown)
         const auto frame = client->receiveFrame();
         ASSERT_TRUE(frame);
         const auto age = toMicroseconds(Clock::now()) - frame->capture_us();
-        EXPECT_LT(age, 2'000'000) << i;
+        EXPECT_LT(age, 10'000'000) << i;
     }
     fleet->limitBandwidth("", 0);
+    // One late acknowledgement begins the calm before the next step up anew.
     EXPECT_TRUE(client->receiveUntil(
-        [](const auto &m) { return m.has_video_level_result() && m.video_level_result().row() == 1; }));
+        [](const auto &m) { return m.has_video_level_result() && m.video_level_result().row() == 1; }, 120s));
 }
 
 TEST_F(GatewayFleetTest, Statistics)

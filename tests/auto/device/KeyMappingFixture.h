@@ -99,7 +99,20 @@ public:
     bool edit() const
     {
         window->onKeyboardMapBtnClicked();
-        return QTest::qWaitFor([this] { return box()->count() == 2; });
+        return QTest::qWaitFor([this] { return box()->count() == 2; }) && waitForFinalSizes();
+    }
+    // The window manager answers later.
+    bool waitForFinalSizes() const
+    {
+        QSize windowSize;
+        QSize videoSize;
+        return QTest::qWaitFor([&] {
+            QTest::qWait(50);
+            const bool areFinal = window->size() == windowSize && video()->size() == videoSize;
+            windowSize = window->size();
+            videoSize = video()->size();
+            return areFinal;
+        });
     }
     // Opens the editor with the scheme's keys over the video.
     bool editArena() const

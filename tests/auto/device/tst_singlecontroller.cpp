@@ -368,7 +368,7 @@ void tst_SingleController::heldKeysComeUpWithTheActivation()
     QWidget other;
     other.show();
     QApplication::setActiveWindow(&other);
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(waitForInputFocus(other));
     QCOMPARE(takeCalls(), (QStringList{keyCall(2, Qt::Key_1), keyCall(2, Qt::Key_A)}));
 }
 

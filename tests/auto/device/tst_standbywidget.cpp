@@ -1,5 +1,7 @@
 #include "device/StandbyWidget.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QLabel>
 #include <QLayout>
@@ -332,7 +334,7 @@ void tst_StandbyWidget::keyboard()
 {
     QFETCH(Qt::Key, key);
     QApplication::setActiveWindow(m_video.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_video.get()));
+    QVERIFY(waitForInputFocus(*m_video));
     m_page->show();
     QVERIFY(button("resumeButton")->hasFocus());
     QSignalSpy resume(m_page, &StandbyWidget::sigResumeBtnClicked);

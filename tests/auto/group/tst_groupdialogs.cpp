@@ -3,6 +3,8 @@
 #include "group/SaveGroupDialog.h"
 #include "widgets/OvWindowBase.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
@@ -44,7 +46,7 @@ public:
     {
         show();
         activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return waitForInputFocus(*this);
     }
     int keys = 0;
 

@@ -5,6 +5,8 @@
 
 #include <swplay/Keyboard.h>
 
+#include <InputFocus.h>
+
 #include <QClipboard>
 #include <QLineEdit>
 
@@ -156,7 +158,7 @@ void TestGroupInput::heldKeysComeUpWithTheWindow()
     QLineEdit other;
     other.show();
     other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(waitForInputFocus(other));
     QVERIFY(reached(keyCall(2, ScanCodeA), 3));
     QVERIFY(reached(keyCall(2, ScanCodeShift), 3)); // only once
 }

@@ -2,6 +2,8 @@
 
 #include "widgets/OvMaskTipsDialog.h"
 
+#include <InputFocus.h>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
@@ -47,7 +49,7 @@ void TestSchemeRows::init()
     m_fixture = std::make_unique<EditorFixture>();
     f().manager->setRecording(true);
     f().window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&f().window));
+    QVERIFY(waitForInputFocus(f().window));
     QVERIFY(f().fill({scheme("A", "Arena", ThreeKeys), scheme("B", "Racing"), scheme("", "Nameless")}));
     f().box()->showPopup();
     QVERIFY(QTest::qWaitForWindowExposed(f().box()->listView()->window()));

@@ -8,6 +8,8 @@
 
 #include <swplay/SWDataSource.h>
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QTest>
@@ -79,7 +81,7 @@ inline void VideoViewFixture::setUp()
     });
     m_window->show();
     QApplication::setActiveWindow(m_window);
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(waitForInputFocus(*m_window));
 }
 
 inline void VideoViewFixture::tearDown()

@@ -283,7 +283,7 @@ void tst_MultimediaMgr::nothingIsAskedForWhileTheCameraStarts()
     QVERIFY(camera().state() != QCamera::ActiveState);
     manager().onProcessVideoFrame();
     QCOMPARE(requests(), before);
-    QTRY_COMPARE(requests(), before + 1);
+    QTRY_VERIFY(requests() > before);
 }
 
 void tst_MultimediaMgr::stopEndsCameraAndTimerButNotTheThread()

@@ -2,6 +2,8 @@
 
 #include "stream/VideoView.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -44,7 +46,7 @@ void tst_VideoViewKeys::init()
     m_view = new VideoView(m_window.get());
     m_window->show();
     QApplication::setActiveWindow(m_window.get());
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(waitForInputFocus(*m_window));
 }
 
 void tst_VideoViewKeys::keysGoOnToTheWindow()

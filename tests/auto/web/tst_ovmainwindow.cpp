@@ -13,6 +13,8 @@
 #include "web/OvWebView.h"
 #include "widgets/OvTitleBarBase.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QImage>
@@ -319,7 +321,7 @@ void TestOvMainWindow::shortcutOnlyAfterSignIn()
     OvMainWindow window;
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(waitForInputFocus(window));
     const QRect login = window.geometry();
     QTest::keyClick(&window, Qt::Key_F11);
     QCOMPARE(window.geometry(), login);

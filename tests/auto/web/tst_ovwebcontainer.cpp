@@ -6,6 +6,8 @@
 #include "web/OvWebContainer.h"
 #include "web/OvWebView.h"
 
+#include <InputFocus.h>
+
 #include <QDir>
 #include <QSettings>
 #include <QSignalSpy>
@@ -203,7 +205,7 @@ void TestOvWebContainer::devToolsOnlyWhenAllowed()
     window.resize(300, 200);
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(waitForInputFocus(window));
 
     const auto press = [&] { QTest::keyClick(&window, Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier); };
     press();
@@ -224,7 +226,7 @@ void TestOvWebContainer::devToolsOnlyWhenAllowed()
 
     tools->hide();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(waitForInputFocus(window));
     press();
     QCOMPARE(devTools(container), QList<QWidget *>{tools});
     delete tools;

@@ -5,6 +5,8 @@
 #include "widgets/OvComboBoxEditableItem.h"
 #include "widgets/OvComboBoxListView.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QImage>
 #include <QInputMethodEvent>
@@ -77,7 +79,7 @@ void TestOvComboBox::initTestCase()
     m_window->setGeometry(300, 200, 400, 300);
     m_window->show();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(waitForInputFocus(*m_window));
 }
 
 void TestOvComboBox::init()

@@ -2,6 +2,8 @@
 
 #include "widgets/OvComboBoxEditableItem.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QLabel>
@@ -59,7 +61,7 @@ void TestOvComboBoxEditableItem::init()
     m_edit = m_item->findChild<QLineEdit *>();
     m_window->show();
     m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    QVERIFY(waitForInputFocus(*m_window));
 }
 
 void TestOvComboBoxEditableItem::metaObject()

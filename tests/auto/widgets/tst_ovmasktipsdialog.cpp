@@ -2,6 +2,8 @@
 
 #include "widgets/OvMaskTipsDialog.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
@@ -40,7 +42,7 @@ public:
     {
         show();
         activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return waitForInputFocus(*this);
     }
     QPushButton *button(const char *name) const
     {
@@ -327,7 +329,7 @@ void TestOvMaskTipsDialog::staysWhileItsWindowIsMinimized()
     window.showMinimized();
     QTRY_VERIFY(window.isMinimized());
     window.showNormal();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(waitForInputFocus(window));
     QVERIFY(window.dialog && window.dialog->isVisible());
 }
 

@@ -2,6 +2,8 @@
 
 #include "widgets/OvTitleBarBase.h"
 
+#include <InputFocus.h>
+
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLabel>
@@ -210,7 +212,7 @@ void TestOvTitleBarBase::f11()
     const QString shownBefore = window.shownButtons();
     window.show();
     window.widget.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window.widget));
+    QVERIFY(waitForInputFocus(window.widget));
     QStringList signalsSeen;
     connect(
         window.bar, &OvTitleBarBase::sigMaximizeShortcutActivated, this, [&] { signalsSeen << "shortcut"; });

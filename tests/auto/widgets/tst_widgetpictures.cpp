@@ -8,6 +8,8 @@
 #include "widgets/OvToast.h"
 #include "widgets/OvWindowBase.h"
 
+#include <InputFocus.h>
+
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -78,7 +80,7 @@ void TestWidgetPictures::initTestCase()
     m_window.move(60, 60);
     m_window.show();
     m_window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&m_window));
+    QVERIFY(waitForInputFocus(m_window));
 }
 
 // Painting is asynchronous, up to the window system's: wait until something is there.

@@ -1,6 +1,7 @@
 #include "DemoRun.h"
 
 #include "Desktop.h"
+#include "Pages.h"
 #include "Screens.h"
 #include "Waiting.h"
 
@@ -14,6 +15,7 @@
 #include <cstdio>
 
 using e2e::Desktop;
+using e2e::settledPage;
 using e2e::settledPicture;
 using e2e::StepFailed;
 using e2e::waitUntil;
@@ -134,8 +136,7 @@ void DemoRun::signIn()
 
     waitUntil(QStringLiteral("the window grows to its working size"),
         [] { return Desktop::window(mainWindowTitle).width() >= workingWidth; });
-    save(QStringLiteral("devices"),
-        settledPicture(QStringLiteral("the device list is painted"), Desktop::window(mainWindowTitle)));
+    save(QStringLiteral("devices"), settledPage(e2e::DevicesPage, 30000));
     say(QStringLiteral("signed in as demo; the device list is shown"));
 }
 
@@ -298,7 +299,11 @@ void DemoRun::editKeys()
     const QRect key(window().topLeft() + walkingKey - QPoint(40, 40), QSize(80, 80));
     const QImage without = Desktop::screenshot(key);
     Desktop::activate(m_deviceName);
+    const QRect listed(window().topLeft() + firstScheme - QPoint(60, 10), QSize(120, 20));
+    const QImage unlisted = Desktop::screenshot(listed);
     Desktop::click(window().topLeft() + schemeBox);
+    waitUntil(QStringLiteral("the list of schemes is open"),
+        [&] { return e2e::difference(Desktop::screenshot(listed), unlisted) > 0.1; });
     settledPicture(QStringLiteral("the schemes are shown"), window());
     Desktop::click(window().topLeft() + firstScheme);
     waitUntil(QStringLiteral("the scheme's keys lie over the video"),
@@ -423,7 +428,7 @@ void DemoRun::clickInMainWindow(const QPoint &position)
 void DemoRun::openSettings()
 {
     clickInMainWindow(settingsItem);
-    settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle));
+    settledPage(e2e::SettingsPage);
 }
 
 void DemoRun::chooseStandbyTime()
@@ -432,37 +437,35 @@ void DemoRun::chooseStandbyTime()
     clickInMainWindow(oneMinute);
     settledPicture(QStringLiteral("the time is chosen"), Desktop::window(mainWindowTitle));
     clickInMainWindow(devicesItem);
-    settledPicture(QStringLiteral("the device list is shown"), Desktop::window(mainWindowTitle));
+    settledPage(e2e::DevicesPage);
 }
 
 void DemoRun::showGroups()
 {
     clickInMainWindow(groupsItem);
-    save(QStringLiteral("groups"),
-        settledPicture(QStringLiteral("the saved groups are shown"), Desktop::window(mainWindowTitle)));
+    save(QStringLiteral("groups"), settledPage(e2e::GroupsPage));
 }
 
 void DemoRun::changeLanguage()
 {
     clickInMainWindow(settingsItem);
-    save(QStringLiteral("settings"),
-        settledPicture(QStringLiteral("the settings are shown"), Desktop::window(mainWindowTitle)));
-    const auto choose = [this](const QPoint &position, const QString &code) {
+    save(QStringLiteral("settings"), settledPage(e2e::SettingsPage));
+    const auto choose = [this](const QPoint &position, const QString &code, const e2e::Page &page) {
         clickInMainWindow(position);
         waitUntil(QStringLiteral("the client is told the language"),
             [&] { return m_client.log().contains(QStringLiteral("\"lang\":\"%1\"").arg(code)); });
-        return settledPicture(QStringLiteral("the page has turned"), Desktop::window(mainWindowTitle));
+        return settledPage(page);
     };
-    save(QStringLiteral("german"), choose(german, QStringLiteral("de")));
-    save(QStringLiteral("arabic"), choose(arabic, QStringLiteral("ar")));
-    choose(englishOfArabic, QStringLiteral("en"));
+    save(QStringLiteral("german"), choose(german, QStringLiteral("de"), e2e::SettingsPage));
+    save(QStringLiteral("arabic"), choose(arabic, QStringLiteral("ar"), e2e::MirroredSettingsPage));
+    choose(englishOfArabic, QStringLiteral("en"), e2e::SettingsPage);
     say(QStringLiteral("changed the language to German, Arabic and back"));
 }
 
 void DemoRun::openWebDevice()
 {
     clickInMainWindow(devicesItem);
-    settledPicture(QStringLiteral("the device list is shown"), Desktop::window(mainWindowTitle));
+    settledPage(e2e::DevicesPage);
     Desktop::type(m_deviceName);
     settledPicture(QStringLiteral("the search has ended"), Desktop::window(mainWindowTitle));
     for (int i = 0; i < TabsToOpenInPage; ++i)

@@ -12,6 +12,7 @@
 
 using e2e::Desktop;
 using e2e::settledPicture;
+using e2e::settledPictureOf;
 using e2e::StepFailed;
 using e2e::waitUntil;
 
@@ -38,15 +39,12 @@ void DemoRun::offerUpdate()
             + e2e::randomBytes(3'000'000, 5));
     m_release.publish(m_service, QStringLiteral("1.3.0"));
     e2e::ReleaseFiles::setFaults(
-        m_service, {{QStringLiteral("file"), installer}, {QStringLiteral("kbit_per_s"), 6000}});
+        m_service, {{QStringLiteral("file"), installer}, {QStringLiteral("kbit_per_s"), 3000}});
     openSettings();
     clickInMainWindow(checkForUpdates);
-    waitUntil(QStringLiteral("the page offers the update"), [] {
-        const QPoint button = Desktop::window(mainWindowTitle).topLeft() + installUpdate;
-        return Desktop::screenshot().pixelColor(button) == accent;
-    });
     save(QStringLiteral("update-offered"),
-        settledPicture(QStringLiteral("the update is offered"), Desktop::window(mainWindowTitle)));
+        settledPictureOf(
+            QStringLiteral("the page offers the update"), mainWindowTitle, installUpdate, accent));
     say(QStringLiteral("the page offers version 1.3.0"));
 }
 
@@ -57,13 +55,15 @@ void DemoRun::downloadUpdate()
         [] { return !Desktop::window(updateDialogTitle).isEmpty(); });
     const QString pending = m_client.dataDir() + QStringLiteral("/pending/");
     waitUntil(QStringLiteral("half of the installer is there"), [&] {
-        return QFileInfo(pending + QStringLiteral("temp_%1.part").arg(installer)).size() > 1'500'000;
+        return QFile::exists(pending + installer)
+            || QFileInfo(pending + QStringLiteral("temp_%1.part").arg(installer)).size() > 1'500'000;
     });
     save(QStringLiteral("update-downloading"), Desktop::screenshot(Desktop::window(updateDialogTitle)));
     waitUntil(
         QStringLiteral("the installer is there"), [&] { return QFile::exists(pending + installer); }, 30000);
     save(QStringLiteral("update-ready"),
-        settledPicture(QStringLiteral("the choice is shown"), Desktop::window(updateDialogTitle)));
+        settledPictureOf(
+            QStringLiteral("the choice is shown"), updateDialogTitle, confirmUpdate + QPoint(0, 11), accent));
     say(QStringLiteral("downloaded the installer of version 1.3.0"));
 }
 

@@ -20,7 +20,7 @@ public:
     void setVariable(const QString &name, const QString &value);
     void start();
     // Throws StepFailed when it does not end by itself.
-    void waitForExit(int timeoutMs = 10000);
+    void waitForExit(int timeoutMs = 30000);
     void kill();
     bool isRunning() const { return m_process.state() == QProcess::Running; }
     int exitCode() const { return m_process.exitCode(); }

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QPixmapCache>
 
+#include <utility>
+
 #include <malloc.h>
 #include <unistd.h>
 
@@ -40,6 +42,19 @@ Resources Resources::now()
         ++resources.files;
         resources.sockets += target.startsWith("socket:");
     }
+    return resources;
+}
+
+Resources Resources::settled()
+{
+    constexpr int betweenLooksMs = 100;
+    Resources resources = now();
+    waitUntil(QStringLiteral("threads, files and sockets settle"), [&resources] {
+        QTest::qWait(betweenLooksMs);
+        const Resources before = std::exchange(resources, now());
+        return resources.threads == before.threads && resources.files == before.files
+            && resources.sockets == before.sockets;
+    });
     return resources;
 }
 

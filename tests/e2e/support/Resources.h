@@ -15,6 +15,8 @@ struct Resources
 
     // Gives back what is only kept for later first. Throws StepFailed when the system does not tell.
     static Resources now();
+    // Once threads, files and sockets are the same for a moment: what ends does so on its own threads.
+    static Resources settled();
 };
 
 } // namespace e2e

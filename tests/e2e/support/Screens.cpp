@@ -75,4 +75,17 @@ QImage settledPicture(const QString &what, const QRect &area, int timeoutMs)
     return last;
 }
 
+QImage settledPictureOf(
+    const QString &what, const QString &window, const QPoint &position, const QColor &colour, int timeoutMs)
+{
+    waitUntil(
+        what,
+        [&] {
+            const QRect pixel(Desktop::window(window).topLeft() + position, QSize(1, 1));
+            return Desktop::screenshot(pixel).pixelColor(0, 0) == colour;
+        },
+        timeoutMs);
+    return settledPicture(what, Desktop::window(window), timeoutMs);
+}
+
 } // namespace e2e
