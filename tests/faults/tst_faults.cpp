@@ -18,12 +18,6 @@ using e2e::waitUntil;
 
 namespace {
 
-// A queue that grows passes this within seconds; a machine that is slow for a moment does not.
-constexpr int longestDelayMs = 3000;
-// Usually half a minute; but a stall of the machine in between looks like the link's own, and the gateway
-// then waits for longer and longer before it tries the next level.
-constexpr int longestRecoveryMs = 300000;
-
 QRgb middlePixel(const QImage &screen)
 {
     return screen.pixel(screen.rect().center());
@@ -190,7 +184,8 @@ void TestFaults::gatewayKilledAndStartedAgain()
         float pressure = 0;
         client->source().sendTouchEvent(0, 1, &x, &y, &pressure);
         m_service->kill();
-        waitUntil(QStringLiteral("the loss is noticed"), [&] { return client->reconnectAttempts() > 0; });
+        waitUntil(
+            QStringLiteral("the loss is noticed"), [&] { return client->reconnectAttempts() > 0; }, 5000);
         // Long enough for several attempts in vain.
         waitUntil(
             QStringLiteral("further attempts"), [&] { return client->reconnectAttempts() >= 3; }, 15000);
@@ -198,8 +193,10 @@ void TestFaults::gatewayKilledAndStartedAgain()
         m_service->start();
         const qint64 returned = client->nowMs();
         waitUntil(
-            QStringLiteral("the picture is back"), [&] { return client->lastPictureMs() > returned; }, 20000);
-        qInfo("picture back %lld ms after the gateway's return", client->lastPictureMs() - returned);
+            QStringLiteral("the picture is back"), [&] { return client->lastPictureMs() > returned; }, 10000);
+        const qint64 backAfter = client->lastPictureMs() - returned;
+        qInfo("picture back %lld ms after the gateway's return", backAfter);
+        QVERIFY2(backAfter <= 2000, qPrintable(QString::number(backAfter)));
         QCOMPARE(client->endReason(), -1);
         QCOMPARE(client->connects(), 2);
 
@@ -231,8 +228,10 @@ void TestFaults::connectionCutLiftsTheFinger()
         waitUntil(QStringLiteral("the finger is down"), [&] { return fingers() == 1; });
         m_service->admin(QStringLiteral("POST"), QStringLiteral("/admin/connections/cut"),
             {{QStringLiteral("pad"), m_pad}});
-        waitUntil(QStringLiteral("the device lifts the finger"), [&] { return fingers() == 0; });
-        waitUntil(QStringLiteral("the client is back"), [&] { return client.connects() == 2; });
+        waitUntil(
+            QStringLiteral("the device lifts the finger"), [&] { return fingers() == 0; }, 5000);
+        waitUntil(
+            QStringLiteral("the client is back"), [&] { return client.connects() == 2; }, 5000);
     });
 }
 
@@ -244,8 +243,10 @@ void TestFaults::stalledConnectionIsNoticed()
             {{QStringLiteral("pad"), m_pad}, {QStringLiteral("ms"), 20000}});
         const qint64 stalledAt = client->nowMs();
         waitUntil(
-            QStringLiteral("the stall is noticed"), [&] { return client->reconnectAttempts() > 0; }, 15000);
-        qInfo("stall noticed after %lld ms", client->lastReconnectMs() - stalledAt);
+            QStringLiteral("the stall is noticed"), [&] { return client->reconnectAttempts() > 0; }, 10000);
+        const qint64 noticedAfter = client->lastReconnectMs() - stalledAt;
+        qInfo("stall noticed after %lld ms", noticedAfter);
+        QVERIFY2(noticedAfter <= 5000, qPrintable(QString::number(noticedAfter)));
         // A new connection is not the stalled one.
         const int pictures = client->pictures();
         waitUntil(
@@ -304,7 +305,8 @@ void TestFaults::corruptVideoRecovers()
         // connection.
         QTest::qWait(400);
         const int pictures = client->pictures();
-        waitUntil(QStringLiteral("pictures again"), [&] { return client->pictures() > pictures + 10; });
+        waitUntil(
+            QStringLiteral("pictures again"), [&] { return client->pictures() > pictures + 10; }, 5000);
         QCOMPARE(client->reconnectAttempts(), 0);
 
         // And they are right: the Latency app fills the screen with one of two colours.
@@ -323,8 +325,9 @@ void TestFaults::corruptVideoRecovers()
             after = middlePixel(m_service->screen(m_pad));
             return !isNear(after, before);
         });
-        waitUntil(QStringLiteral("the screen flips"),
-            [&] { return isNear(static_cast<QRgb>(client->middleColour()), after); });
+        waitUntil(
+            QStringLiteral("the screen flips"),
+            [&] { return isNear(static_cast<QRgb>(client->middleColour()), after); }, 3000);
     });
 }
 
@@ -340,8 +343,8 @@ void TestFaults::longDelayWorks()
             [&] { return client->streamInfos().size() >= infos + 6; }, 12000);
         const int delay = largestDelay(*client, infos + 2);
         qInfo("delay at 200 ms round trip: %d ms", delay);
-        // The one-way delay is seen.
-        QVERIFY2(delay >= 80, qPrintable(QString::number(delay)));
+        // The one-way delay is seen, and little is added to it.
+        QVERIFY2(delay >= 80 && delay <= 400, qPrintable(QString::number(delay)));
         QCOMPARE(client->reconnectAttempts(), 0);
         // A long but wide path is no reason to lower the quality.
         QVERIFY(sessionStats().value(QLatin1String("level_row")).toInt() <= 2);
@@ -369,13 +372,13 @@ void TestFaults::narrowLinkLowersTheLevelAndRecovers()
         const int delay = client->worstDelayMs();
         qInfo("at 1 Mbit/s: row %d, longest delay of a picture %d ms, %d pictures", row(), delay,
             client->pictures() - pictures);
-        QVERIFY2(delay <= longestDelayMs, qPrintable(QString::number(delay)));
+        QVERIFY2(delay <= 1500, qPrintable(QString::number(delay)));
         QVERIFY(client->pictures() - pictures > 40);
         QCOMPARE(client->reconnectAttempts(), 0);
 
         relay.setRate(0);
         waitUntil(
-            QStringLiteral("the level is back up"), [&] { return row() == 1; }, longestRecoveryMs);
+            QStringLiteral("the level is back up"), [&] { return row() == 1; }, 90000);
     });
 }
 
@@ -402,14 +405,13 @@ void TestFaults::stallsOfLossKeepTheDelayBounded()
             "%d",
             delay, gap, lowestRow);
         // What was on its way when the stall began comes at its end, and no backlog after it.
-        QVERIFY2(delay <= longestDelayMs, qPrintable(QString::number(delay)));
-        QVERIFY2(gap <= longestDelayMs, qPrintable(QString::number(gap)));
+        QVERIFY2(delay <= 1000, qPrintable(QString::number(delay)));
+        QVERIFY2(gap <= 1000, qPrintable(QString::number(gap)));
         QCOMPARE(client->reconnectAttempts(), 0);
         relay.setStalls(0, 0);
         waitUntil(
             QStringLiteral("the level is back up"),
-            [this] { return sessionStats().value(QLatin1String("level_row")).toInt() == 1; },
-            longestRecoveryMs);
+            [this] { return sessionStats().value(QLatin1String("level_row")).toInt() == 1; }, 90000);
     });
 }
 
@@ -439,14 +441,14 @@ void TestFaults::poorLinkLowersTheLevelAndRecovers()
         qInfo("poor link: row %d, longest delay of a picture %d ms, longest time between two %d ms, %d "
               "pictures",
             row(), delay, client->worstGapMs(), client->pictures() - pictures);
-        QVERIFY2(delay <= longestDelayMs, qPrintable(QString::number(delay)));
+        QVERIFY2(delay <= 1500, qPrintable(QString::number(delay)));
         QVERIFY(client->pictures() - pictures > 40);
         QCOMPARE(client->reconnectAttempts(), 0);
 
         relay.setRate(0);
         relay.setStalls(0, 0);
         waitUntil(
-            QStringLiteral("the level is back up"), [&] { return row() == 1; }, longestRecoveryMs);
+            QStringLiteral("the level is back up"), [&] { return row() == 1; }, 90000);
     });
 }
 

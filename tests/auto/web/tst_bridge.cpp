@@ -400,7 +400,7 @@ window.began = performance.now();
     QCOMPARE(evaluate(page(), QStringLiteral("window.sent")).toInt(), 1000 * (seconds + warmUp));
     QTRY_COMPARE(m_window->pos(), before);
     // Not a limit on the machine's speed, but far from it if every call repaints the window.
-    QVERIFY2(largestGapMs < 3000, qPrintable(QString::number(largestGapMs)));
+    QVERIFY2(largestGapMs < 1000, qPrintable(QString::number(largestGapMs)));
     QVERIFY2(grownKiB < 8 * 1024, qPrintable(QString::number(grownKiB)));
 }
 

@@ -58,4 +58,21 @@ Resources Resources::settled()
     return resources;
 }
 
+Resources Resources::backAt(const Resources &before)
+{
+    constexpr int limitMs = 45000;
+    Resources resources;
+    const auto isBack = [&] {
+        resources = now();
+        return resources.isBackAt(before);
+    };
+    (void)QTest::qWaitFor(isBack, limitMs); // the caller looks
+    return resources;
+}
+
+bool Resources::isBackAt(const Resources &before) const
+{
+    return threads <= before.threads && files == before.files && sockets == before.sockets;
+}
+
 } // namespace e2e

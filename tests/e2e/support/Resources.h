@@ -17,6 +17,11 @@ struct Resources
     static Resources now();
     // Once threads, files and sockets are the same for a moment: what ends does so on its own threads.
     static Resources settled();
+    // Once it is back at `before`, or after 45 s.
+    static Resources backAt(const Resources &before);
+
+    // No more threads, and as many files and sockets; an idle thread of a pool may have ended.
+    bool isBackAt(const Resources &before) const;
 };
 
 } // namespace e2e
